@@ -1,0 +1,35 @@
+# qvt_unit_tests(NAME SOURCES src... LIBS lib...)
+# One GoogleTest binary per library, registered as one ctest entry.
+function(qvt_unit_tests name)
+  cmake_parse_arguments(ARG "" "" "SOURCES;LIBS" ${ARGN})
+  if(NOT ARG_SOURCES)
+    return()
+  endif()
+  add_executable(${name} ${ARG_SOURCES})
+  target_link_libraries(${name} PRIVATE ${ARG_LIBS} GTest::gtest GTest::gtest_main)
+  add_test(NAME ${name} COMMAND ${name} --gtest_brief=1)
+endfunction()
+
+# qvt_fuzz_target(NAME SOURCES src... LIBS lib... CORPUS dir [SECONDS n])
+# A libFuzzer target plus a short bounded run of it on its seed corpus.
+function(qvt_fuzz_target name)
+  cmake_parse_arguments(ARG "" "CORPUS;SECONDS" "SOURCES;LIBS" ${ARGN})
+  if(NOT QVT_FUZZ)
+    return()
+  endif()
+  if(NOT ARG_SECONDS)
+    set(ARG_SECONDS 10)
+  endif()
+  add_executable(${name} ${ARG_SOURCES})
+  target_compile_options(${name} PRIVATE -fsanitize=fuzzer)
+  target_link_options(${name} PRIVATE -fsanitize=fuzzer)
+  target_link_libraries(${name} PRIVATE ${ARG_LIBS})
+  set(work ${CMAKE_CURRENT_BINARY_DIR}/${name}-corpus)
+  add_test(NAME ${name}-smoke
+           COMMAND ${CMAKE_COMMAND} -E env ASAN_OPTIONS=detect_leaks=0
+                   $<TARGET_FILE:${name}> -max_total_time=${ARG_SECONDS} -timeout=10 -rss_limit_mb=2048
+                   -print_final_stats=0 ${work} ${ARG_CORPUS})
+  set_tests_properties(${name}-smoke PROPERTIES FIXTURES_REQUIRED ${name}-dir)
+  add_test(NAME ${name}-mkdir COMMAND ${CMAKE_COMMAND} -E make_directory ${work})
+  set_tests_properties(${name}-mkdir PROPERTIES FIXTURES_SETUP ${name}-dir)
+endfunction()
