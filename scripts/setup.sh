@@ -36,6 +36,7 @@ configure() {
   cmake --build "$dir" -j "$jobs"
 }
 
+export CC=clang-14 CXX=clang++-14
 configure build -DCMAKE_BUILD_TYPE=RelWithDebInfo
 if [ "${1:-}" != "--no-asan" ]; then
   configure build-asan -DCMAKE_BUILD_TYPE=Debug -DQVT_SANITIZE=ON
