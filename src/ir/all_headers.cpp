@@ -1,0 +1,2 @@
+#include "ir/ir.h"
+#include "ir/builder.h"

@@ -1,0 +1,1 @@
+#include "ir/annotes.h"
