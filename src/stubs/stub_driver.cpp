@@ -1,0 +1,89 @@
+// The stub driver. A stub file holds at most 200 stubs, so the text of one file is all that is
+// kept in memory; the roll-over test stands ahead of the function's own text.
+#include "stubs/stub_driver.h"
+
+#include <cstdio>
+
+#include "analysis/stub_pragmas.h"
+#include "analysis/symbol_collection.h"
+#include "driver/global_lists.h"
+#include "driver/options.h"
+#include "driver/output_files.h"
+#include "stubs/stub_bodies.h"
+#include "types/type_predicates.h"
+
+static constexpr int stubs_per_file = 200;
+
+void generate_stubs()
+{
+  string_list *lines = new string_list;
+  if (!stub_proc_list || stub_proc_list->is_empty()) {
+    write_stub_file(lines);
+    delete lines;
+    return;
+  }
+  int count = 1;
+  for (sym_node_list_iter it(stub_proc_list); !it.is_empty(); count++) {
+    proc_sym *proc = static_cast<proc_sym *>(it.step());
+    int kind = stub_kind_of(proc);
+    if (count % stubs_per_file == 0) {
+      write_stub_file(lines);
+      stub_file_index++;
+    }
+    report_stub(proc, kind);
+    string_list *stub = make_stub(proc, kind, false);
+    lines->append(stub);
+    delete stub;
+  }
+  write_stub_file(lines);
+  delete lines;
+}
+
+void report_stub(proc_sym *proc, int kind)
+{
+  const char *name = display_name(proc);
+  switch (kind) {
+  case STUB_DEFAULT:
+    fprintf(stderr, "* Function %s may write to its arguments and may return random.\n", name);
+    fprintf(stderr, "           Does not model pointer effects.\n");
+    break;
+  case STUB_PURE:
+    fprintf(stderr, "* Function %s is pure.\n", name);
+    break;
+  case STUB_CLEAN:
+    fprintf(stderr, "* Function %s is stubbed cleanly.\n", name);
+    break;
+  case STUB_WORST:
+    fprintf(stderr, "* Function %s may write to its arguments and may return parts of them.\n", name);
+    fprintf(stderr, "           Modelizes pointer effects.\n");
+    break;
+  default:
+    return;
+  }
+  func_type *type = proc->type();
+  bool variadic = type->has_varargs();
+  if (kind != STUB_PURE && variadic)
+    fprintf(stderr, "           It may write in the variable arguments.\n");
+  if (type->return_type() != type_void && flag_return_initialized)
+    fprintf(stderr, "           Returns an initialized value.\n");
+
+  int total = (int)type->num_args();
+  int named = variadic ? total - 2 : total;
+  int_list constants;
+  for (int i = 0; i < named; i++)
+    if (is_const_param(type->arg_type((unsigned)i)))
+      constants.append(i);
+  if (!constants.is_empty()) {
+    bool several = constants.count() > 1;
+    fprintf(stderr, "           Const parameters (nb params=%d): ", total);
+    if (several)
+      fprintf(stderr, "(");
+    bool first = true;
+    for (int_list_iter it(&constants); !it.is_empty(); first = false)
+      fprintf(stderr, "%s#%d", first ? "" : ", ", it.step() + 1);
+    if (several)
+      fprintf(stderr, ")");
+    fprintf(stderr, ".\n");
+  }
+  fprintf(stderr, "\n");
+}
