@@ -1,0 +1,158 @@
+// Output files: how every generated C file is opened, indented, prefixed and closed.
+//
+// Generators never write: they return text as string_lists (one piece per line) and leave
+// helper definitions in the text lists below. A writer opens its file only when all its text
+// is built, so the helper text collected during that build goes into its prologue, ahead of
+// the code that uses it. Files are always appended to (mode "ab"): a second run into the same
+// directory extends what is there.
+#include "driver/output_files.h"
+
+#include <cstring>
+
+#include "driver/options.h"
+#include "types/type_emitter.h"
+
+FILE *out_file = nullptr;
+int indent_level = 0;
+int stub_file_index = 0;
+bool main_file_written = false;
+
+string_list *fptr_stub_texts = nullptr;
+string_list *init_proc_texts = nullptr;
+string_list *var_init_proc_texts = nullptr;
+string_list *function_texts = nullptr;
+type_node_list *random_type_list = nullptr;
+
+const char *k_type_defined = nullptr;
+const char *k_type_name = nullptr;
+const char *k_init_proc = nullptr;
+const char *k_init_proc_decl = nullptr;
+const char *k_already_init_sym = nullptr;
+const char *k_calling_proc = nullptr;
+const char *k_fct_stub = nullptr;
+const char *k_fct_stub_pure = nullptr;
+const char *k_fct_stub_worst = nullptr;
+
+void emit_indent() {
+  for (int i = 0; i < indent_level; i++) fputs("    ", out_file);
+}
+
+void emit_line(const char *text) {
+  if (text && text[0] == '}') indent_level--;
+  emit_indent();
+  if (text && text[0] == '{') indent_level++;
+  if (text) fprintf(out_file, "%s", text);
+}
+
+char *stubs_dir_path(const char *name) {
+  return bufprintf("%s/%s", stubs_dir, name);
+}
+
+FILE *open_output_file(const char *path) {
+  out_file = fopen(path, "ab");
+  if (!out_file) error_line(1, nullptr, "qvt-stubber: file '%s' access fails", path);
+  return out_file;
+}
+
+void close_output_file() {
+  checked_fclose(out_file);
+}
+
+// Moves every piece of from to the end of into; from ends empty.
+static void move_pieces(string_list *into, string_list *from) {
+  if (from) into->append(from);
+}
+
+string_list *build_prologue(const char *header_name) {
+  string_list *r = new string_list;
+  r->append(bufprintf("#include \"%s\"\n\n", header_name));
+  r->append("extern void assert(int);\n\n");
+  r->append(flag_instrum ? "extern long long __qvt_i64_rand_range(long long min, long long max); extern unsigned long long __qvt_u64_rand_range(unsigned long long min, unsigned long long max); extern int __qvt_i32_rand_range(int min, int max); extern unsigned int __qvt_u32_rand_range(unsigned int min, unsigned int max); extern int __qvt_i8_rand_range(int min, int max); extern unsigned int __qvt_u8_rand_range(unsigned int min, unsigned int max); extern int __qvt_i16_rand_range(int min, int max); extern unsigned int __qvt_u16_rand_range(unsigned int min, unsigned int max); extern double __qvt_f32_rand_range(double min, double max); extern double __qvt_f64_rand_range(double min, double max); extern long double __qvt_f128_rand_range(long double min, long double max);\n" : "\n");
+  r->append(flag_instrum ? "#define QVT_TRUE() (qvt_random_int % 2 != 0)\n\n" : "#define QVT_TRUE() qvt_random_int\n\n");
+  r->append("/* Definition of max array size */\n\n");
+  r->append("/* Number of bits of 1 byte and addressable unit size */\n\n");
+  r->append(bufprintf("#define QVT_SIZE_CHAR_IN_BITS %d\n\n", target.addressable_size));
+  r->append("/* Memory zone addressable according to the target and the pointer configuration */\n\n");
+  bool big_zone = type_ptr->size() >= 32 && !flag_instrum;
+  r->append(bufprintf("#define ARRAY_SIZE %s\n", big_zone ? "(2147483647 / QVT_SIZE_CHAR_IN_BITS)" : "(65535)"));
+  r->append("#define ARRAY_NBELEM_0(TY) (((ARRAY_SIZE / 2) - 1) / sizeof (TY))\n");
+  r->append(bufprintf("#define ARRAY_NBELEM(TY) %s\n\n", flag_instrum ? "(ARRAY_NBELEM_0(TY) > 32 ? 32 : (ARRAY_NBELEM_0(TY) < 1 ? 1 : ARRAY_NBELEM_0(TY)))" : "(ARRAY_NBELEM_0(TY) < 1 ? 1 : ARRAY_NBELEM_0(TY))"));
+  if (flag_instrum) {
+    r->append("extern void **__quorvanta_vararg; ");
+    r->append("extern int __quorvanta_nb_varargs;\n");
+  } else {
+    r->append("\n");
+  }
+  r->append("/* Declaration of random variables */\n\n");
+  r->append("static volatile __QVT__CHAR qvt_random_char;\n\n");
+  r->append(flag_instrum ? "static volatile unsigned int qvt_random_int;\n\n" : "static volatile int qvt_random_int;\n\n");
+  if (random_type_list && !random_type_list->is_empty()) {
+    for (type_node_list_e *e = random_type_list->head(); e; e = e->next())
+      r->append(bufprintf("static volatile %s qvt_random_g_%d;\n", get_type_name(e->contents), (int)e->contents->type_id()));
+    r->append("\n");
+  }
+  r->append("\n/* Definition of needed stubs for function pointers */\n\n");
+  move_pieces(r, fptr_stub_texts);
+  r->append("\n/* Definition of init procedures */\n\n");
+  move_pieces(r, init_proc_texts);
+  r->append("\n/* Definition of variables init procedures */\n\n");
+  move_pieces(r, var_init_proc_texts);
+  r->append("\n/* Definition of functions */\n\n");
+  move_pieces(r, function_texts);
+  reset_generation_state();
+  return r;
+}
+
+// Registers one of this module's marks (not written to the output IR).
+static const char *register_mark(const char *name) {
+  return register_annote(new annote_def(name, false));
+}
+
+// Deletes every annotation called name on t.
+static void strip_marks(type_node *t, const char *name) {
+  while (annote *a = t->get_annote(name)) delete a;
+}
+
+void reset_generation_state() {
+  if (!k_type_defined) {
+    k_type_defined = register_mark("type_defined");
+    k_type_name = register_mark("type_name");
+    k_init_proc = register_mark("init_proc");
+    k_init_proc_decl = register_mark("init_proc_decl");
+    k_already_init_sym = register_mark("already_init_sym");
+    k_calling_proc = register_mark("calling_proc");
+    k_fct_stub = register_mark("k_fct_stub");
+    k_fct_stub_pure = register_mark("fct_stub_pure");
+    k_fct_stub_worst = register_mark("fct_stub_worst");
+    target_long_is_24_bits = type_signed_long->size() == 24;
+  } else if (fileset && fileset->globals) {
+    for (type_node_list_e *e = fileset->globals->types()->head(); e; e = e->next()) {
+      if (!e->contents->are_annotations()) continue;
+      strip_marks(e->contents, k_init_proc_decl);
+      strip_marks(e->contents, k_fct_stub);
+      strip_marks(e->contents, k_fct_stub_pure);
+      strip_marks(e->contents, k_fct_stub_worst);
+    }
+  }
+  // The old lists are abandoned, not deleted: a caller may still hold one.
+  init_proc_texts = new string_list;
+  var_init_proc_texts = new string_list;
+  function_texts = new string_list;
+  random_type_list = new type_node_list;
+  fptr_stub_texts = new string_list;
+}
+
+void forget_generation_marks() {
+  k_type_defined = k_type_name = k_init_proc = k_init_proc_decl = nullptr;
+  k_already_init_sym = k_calling_proc = k_fct_stub = k_fct_stub_pure = k_fct_stub_worst = nullptr;
+}
+
+void write_stub_file(string_list *lines) {
+  open_output_file(bufprintf("%s/%s_%d.c", stubs_dir, "qvt_stubs", stub_file_index));
+  string_list *prologue = build_prologue("qvt_stub_types.h");
+  for (string_list_e *e = prologue->head(); e; e = e->next()) emit_line(e->contents);
+  delete prologue;
+  for (string_list_e *e = lines->head(); e; e = e->next()) emit_line(e->contents);
+  close_output_file();
+  lines->erase();
+}
