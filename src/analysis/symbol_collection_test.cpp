@@ -1,0 +1,374 @@
+// Symbol collection on builder-made programs: which undefined functions are
+// stubbed or refused (with the exact diagnosis, its position and the status),
+// which variables the main writes, and the name lists of the options.
+#include "analysis/stub_pragmas.h"
+#include "analysis/symbol_collection.h"
+#include "analysis/used_symbols.h"
+#include "driver/global_lists.h"
+#include "driver/options.h"
+#include "ir/builder.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdio>
+#include <string>
+#include <vector>
+
+namespace {
+
+std::vector<std::string> names_of(sym_node_list *list) {
+  std::vector<std::string> out;
+  if (list)
+    for (sym_node_list_e *e = list->head(); e; e = e->next())
+      out.push_back(e->contents->name());
+  return out;
+}
+
+std::vector<std::string> names_of(proc_sym_list *list) {
+  std::vector<std::string> out;
+  if (list)
+    for (proc_sym_list_e *e = list->head(); e; e = e->next())
+      out.push_back(e->contents->name());
+  return out;
+}
+
+using names = std::vector<std::string>;
+
+class Collection : public testing::Test {
+protected:
+  void SetUp() override {
+    int argc = 1;
+    char name[] = "symbol_collection_test";
+    char *argv[] = {name, nullptr};
+    init_suif(argc, argv);
+    forget_stub_mode_name();
+    b = new program_builder(nullptr, "prog.c");
+    current_fse = b->fse();
+    exit_status = 0;
+    automatic_stubber_reported = false;
+    flag_permissive_stubber = flag_no_automatic_stubbing = flag_main_generator = false;
+    flag_no_undef_variables_stubs = flag_stub_all_worst = flag_instrum = false;
+    int_fn = b->func(type_signed, {type_signed});
+  }
+  void TearDown() override {
+    delete_global_lists();
+    delete procs_after_loop;
+    procs_after_loop = nullptr;
+    delete b;
+    free_used_symbols_scratch();
+    exit_suif();
+    exit_status = 0;
+    automatic_stubber_reported = false;
+    flag_instrum = false;
+  }
+  // Runs the pass and returns what it printed on stderr.
+  std::string collect(const char *tasks = nullptr, const char *cs_begin = nullptr, const char *temporal = nullptr,
+                      const char *vars_before = nullptr, const char *vars_in = nullptr,
+                      const char *funcs_in = nullptr, const char *funcs_before = nullptr,
+                      const char *funcs_after = nullptr) {
+    compute_used_symbols(b->fse());
+    testing::internal::CaptureStderr();
+    collect_symbols(tasks, cs_begin, nullptr, temporal, vars_before, vars_in, funcs_in, funcs_before, funcs_after,
+                    nullptr);
+    return testing::internal::GetCapturedStderr();
+  }
+  proc_sym *undefined(const char *name, func_type *type, int line) {
+    b->set_line(line);
+    return b->extern_proc(name, type);
+  }
+
+  program_builder *b = nullptr;
+  func_type *int_fn = nullptr;
+};
+
+const char *const unknown_prototype_long =
+    "prog.c:4: error: function 'old' has unknown prototype\n"
+    "|        Please provide the complete prototype for this function,\n"
+    "|        or you can try using the -permissive-stubber option.\n";
+
+TEST_F(Collection, FunctionWithoutPrototypeIsRefused) {
+  undefined("old", b->func_noproto(type_signed), 4);
+  undefined("fine", int_fn, 5);
+  std::string err = collect();
+  EXPECT_EQ(err, unknown_prototype_long);
+  EXPECT_EQ(exit_status, 1);
+  EXPECT_EQ(names_of(stub_proc_list), names{"fine"});
+}
+
+TEST_F(Collection, PermissiveOnlyShortensTheMessage) {
+  flag_permissive_stubber = true;
+  undefined("old", b->func_noproto(type_signed), 4);
+  std::string err = collect();
+  EXPECT_EQ(err, "prog.c:4: error: function 'old' has unknown prototype\n"
+                 "|        Please provide the complete prototype for this function.\n");
+  EXPECT_EQ(exit_status, 1);
+  EXPECT_TRUE(names_of(stub_proc_list).empty());
+}
+
+const char *const complex_fptr_message =
+    "error: function '%s' refers to a function pointer that is either too complex,\n"
+    "|        or within a complex data-structure, or with unknown parameters.\n"
+    "|        It cannot be stubbed automatically.\n"
+    "|        This error can be ignored by using the -permissive-stubber option.\n";
+
+std::string complex_fptr_error(const char *where, const char *name) {
+  char text[1024];
+  snprintf(text, sizeof text, complex_fptr_message, name);
+  return std::string(where) + text;
+}
+
+TEST_F(Collection, FunctionPointerParameters) {
+  func_type *takes_int = b->func(type_void, {type_signed});
+  func_type *takes_ptr = b->func(type_void, {b->ptr(type_signed)});
+  func_type *no_proto = b->func_noproto(type_void);
+  struct_type *with_fptr = b->struct_of("s", {{"cb", b->ptr(takes_int)}});
+  undefined("simple_cb", b->func(type_void, {b->ptr(takes_int)}), 10);
+  undefined("ptr_cb", b->func(type_void, {b->ptr(takes_ptr)}), 11);
+  undefined("noproto_cb", b->func(type_void, {b->ptr(no_proto)}), 12);
+  undefined("struct_ptr", b->func(type_void, {b->ptr(with_fptr)}), 13);
+  undefined("struct_val", b->func(type_void, {with_fptr}), 14);
+  std::string err = collect();
+  EXPECT_EQ(err, complex_fptr_error("prog.c:11: ", "ptr_cb") + complex_fptr_error("prog.c:12: ", "noproto_cb") +
+                     complex_fptr_error("prog.c:14: ", "struct_val"));
+  EXPECT_EQ(exit_status, 1);
+  EXPECT_EQ(names_of(stub_proc_list), (names{"simple_cb", "struct_ptr"}));
+}
+
+TEST_F(Collection, FunctionReturningFunctionPointer) {
+  undefined("maker", b->func(b->ptr(int_fn), {}), 20);
+  std::string err = collect();
+  EXPECT_EQ(err, "prog.c:20: error: function 'maker' returns a function pointer.\n"
+                 "|        It cannot be stubbed automatically.\n"
+                 "|        This error can be ignored by using the -permissive-stubber option.\n");
+  EXPECT_TRUE(names_of(stub_proc_list).empty());
+}
+
+TEST_F(Collection, PermissiveAcceptsFunctionPointers) {
+  flag_permissive_stubber = true;
+  func_type *takes_ptr = b->func(type_void, {b->ptr(type_signed)});
+  undefined("ptr_cb", b->func(type_void, {b->ptr(takes_ptr)}), 11);
+  undefined("maker", b->func(b->ptr(int_fn), {}), 20);
+  EXPECT_EQ(collect(), "");
+  EXPECT_EQ(exit_status, 0);
+  EXPECT_EQ(names_of(stub_proc_list), (names{"ptr_cb", "maker"}));
+}
+
+TEST_F(Collection, StubKinds) {
+  proc_sym *nothing = undefined("nothing", b->func(type_void, {}), 1);
+  proc_sym *writer = undefined("writer", b->func(type_void, {b->ptr(type_signed)}), 2);
+  proc_sym *variadic =
+      undefined("variadic", b->func(type_void, {b->const_of(type_signed)}, true), 3);
+  set_stub_mode(nothing, STUB_WORST);
+  EXPECT_EQ(stub_kind_of(nothing), STUB_PURE);
+  EXPECT_EQ(stub_kind_of(writer), STUB_DEFAULT);
+  EXPECT_EQ(stub_kind_of(variadic), STUB_DEFAULT);
+  set_stub_mode(writer, STUB_CLEAN);
+  set_stub_mode(writer, STUB_WORST);
+  EXPECT_EQ(stub_kind_of(writer), STUB_CLEAN);
+  flag_stub_all_worst = true;
+  EXPECT_EQ(stub_kind_of(variadic), STUB_WORST);
+  flag_stub_all_worst = false;
+  set_stub_mode(nothing, STUB_NO_INSTRUMENT); // the first mark still wins
+  EXPECT_EQ(stub_kind_of(nothing), STUB_PURE);
+}
+
+TEST_F(Collection, NoInstrumentPragmaSkipsTheFunction) {
+  flag_instrum = true;
+  proc_sym *skipped = undefined("skipped", b->func(type_void, {}), 1);
+  set_stub_mode(skipped, STUB_NO_INSTRUMENT);
+  undefined("kept", int_fn, 2);
+  EXPECT_EQ(collect(), "");
+  EXPECT_EQ(names_of(stub_proc_list), names{"kept"});
+}
+
+TEST_F(Collection, NoAutomaticStubbingKeepsAllocationFunctions) {
+  flag_no_automatic_stubbing = true;
+  undefined("malloc", b->func(b->ptr(type_void), {type_unsigned_long}), 1);
+  undefined("first", int_fn, 2);
+  undefined("second", int_fn, 3);
+  std::string err = collect();
+  EXPECT_EQ(err, "error: The automatic stubber is not activated.\n"
+                 "|\tfunction \"first\" must be stubbed manually.\n"
+                 "|\tfunction \"second\" must be stubbed manually.\n");
+  EXPECT_EQ(exit_status, 1);
+  EXPECT_TRUE(automatic_stubber_reported);
+  EXPECT_EQ(names_of(stub_proc_list), names{"malloc"});
+}
+
+TEST_F(Collection, AssertAndBuiltinsAreNotStubbed) {
+  undefined("assert", int_fn, 1);
+  undefined("unchecked_assert", int_fn, 2);
+  proc_sym *builtin = undefined("__builtin_thing", int_fn, 3);
+  b->annotate(builtin, k_builtin);
+  std::string err = collect();
+  EXPECT_EQ(err, "");
+  EXPECT_TRUE(names_of(stub_proc_list).empty());
+}
+
+TEST_F(Collection, FakeMainIsShownAsMain) {
+  proc_sym *fake = undefined("__quorvanta_fake_main", b->func_noproto(type_signed), 4);
+  EXPECT_STREQ(display_name(fake), "main");
+  std::string err = collect();
+  EXPECT_NE(err.find("function 'main' has unknown prototype"), std::string::npos);
+}
+
+TEST_F(Collection, TasksAreCheckedInTheFileTable) {
+  b->defined_proc("good", b->func(type_void, {}));
+  b->defined_proc("with_param", b->func(type_void, {type_signed}));
+  undefined("missing_body", b->func(type_void, {}), 1);
+  std::string err = collect("good,with_param,missing_body,nowhere");
+  EXPECT_EQ(err, "error: Verifier found an error in parameter -entry-points: task 'with_param' has non-void "
+                 "prototype\n"
+                 "error: Verifier found an error in parameter -entry-points: task \"missing_body\" must be a "
+                 "userdef function without parameters\n"
+                 "error: Verifier found an error in parameter -entry-points: task \"nowhere\" must be a userdef "
+                 "function without parameters\n");
+  EXPECT_EQ(exit_status, 1);
+  std::vector<std::string> tasks;
+  for (string_list_e *e = task_list->head(); e; e = e->next())
+    tasks.push_back(e->contents);
+  EXPECT_EQ(tasks, (names{"good", "with_param", "missing_body", "nowhere"}));
+}
+
+TEST_F(Collection, CriticalSectionsKeepTheFunctionPart) {
+  b->defined_proc("body", b->func(type_void, {type_signed}));
+  undefined("hook", b->func(type_void, {}), 1);
+  undefined("bad", b->func(type_signed, {}), 2);
+  std::string err = collect(nullptr, "body:l1,hook:l2,bad:l3,nolabel");
+  EXPECT_EQ(err, "error: Verifier found an error in parameter -critical-section: function \"bad\" must be a "
+                 "userdef function\n");
+  std::vector<std::string> kept;
+  for (string_list_e *e = cs_begin_list->head(); e; e = e->next())
+    kept.push_back(e->contents);
+  EXPECT_EQ(kept, (names{"body", "hook", "bad"}));
+}
+
+TEST_F(Collection, MissingTemporalFileIsSilent) {
+  EXPECT_EQ(collect(nullptr, nullptr, "no/such/file"), "");
+  EXPECT_TRUE(temporal_task_list->is_empty());
+  EXPECT_EQ(exit_status, 0);
+}
+
+TEST_F(Collection, TemporalFileNamesMustBeTasks) {
+  proc_sym *task = b->defined_proc("task_a", b->func(type_void, {}));
+  b->annotate(task, k_is_a_task);
+  b->defined_proc("plain", b->func(type_void, {}));
+  char path[] = "/tmp/qvt_temporal_XXXXXX";
+  int fd = mkstemp(path);
+  ASSERT_GE(fd, 0);
+  FILE *f = fdopen(fd, "w");
+  fputs("task_a plain\r\n\tghost\n", f); // a tab is part of a name
+  fclose(f);
+  std::string err = collect(nullptr, nullptr, path);
+  remove(path);
+  EXPECT_EQ(err, "error: Verifier found an error in parameter -temporal-exclusions: module \"plain\" must be a "
+                 "task\n"
+                 "error: Verifier found an error in parameter -temporal-exclusions: module \"\tghost\" must be "
+                 "userdef\n");
+}
+
+TEST_F(Collection, UndefinedVariables) {
+  b->global_var("defined_v", type_signed, true);
+  b->global_var("ext_v", type_signed, false);
+  var_sym *std_v = b->global_var("std_v", type_signed, false);
+  std_v->set_flag(SYMFLAG_STANDARD_STUBBED);
+  var_sym *hidden = b->global_var("hidden", type_signed, false);
+  hidden->reset_userdef();
+  collect();
+  EXPECT_EQ(names_of(extern_var_list), names{"ext_v"});
+  EXPECT_EQ(names_of(std_extern_var_list), names{"std_v"});
+  EXPECT_EQ(vars_before_loop, nullptr);
+}
+
+TEST_F(Collection, MainVariablesByWord) {
+  flag_main_generator = true;
+  b->global_var("g1", type_signed, true);
+  b->global_var("ext_v", type_signed, false);
+  b->global_var("konst", b->const_of(type_signed), true);
+  b->static_var("file_v", type_signed);
+  collect(nullptr, nullptr, nullptr, nullptr, "all");
+  EXPECT_EQ(names_of(vars_before_loop), (names{"g1", "ext_v"}));
+  EXPECT_EQ(names_of(vars_in_loop), (names{"g1", "ext_v", "file_v"}));
+  EXPECT_TRUE(names_of(extern_var_list).empty()); // written by the main instead
+}
+
+TEST_F(Collection, WordsAreComparedWhole) {
+  flag_main_generator = true;
+  b->global_var("g1", type_signed, true);
+  collect(nullptr, nullptr, nullptr, "publicity", "all ");
+  EXPECT_TRUE(names_of(vars_before_loop).empty());
+  EXPECT_TRUE(names_of(vars_in_loop).empty());
+}
+
+TEST_F(Collection, CustomVariablesLeaveExternList) {
+  flag_main_generator = true;
+  b->global_var("ext_a", type_signed, false);
+  b->global_var("ext_b", type_signed, false);
+  std::string err = collect(nullptr, nullptr, nullptr, "custom=ext_b,nope,ext_b", nullptr);
+  EXPECT_EQ(err, "warning: variable \"nope\" does not exist. Fix option -variables-written-before-loop "
+                 "(-main-generator-writes-variables).\n");
+  EXPECT_EQ(exit_status, 0);
+  EXPECT_EQ(names_of(vars_before_loop), names{"ext_b"});
+  EXPECT_EQ(names_of(extern_var_list), names{"ext_a"});
+}
+
+TEST_F(Collection, InitFunctionsAndTheLoopList) {
+  flag_main_generator = true;
+  func_type *void_fn = b->func(type_void, {});
+  b->defined_proc("init", void_fn);
+  b->defined_proc("work", void_fn);
+  collect(nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, "init,ghost", "work");
+  EXPECT_EQ(names_of(procs_in_loop), (names{"init", "work"}));
+  EXPECT_EQ(names_of(procs_before_loop), names{"init"});
+  EXPECT_EQ(names_of(procs_after_loop), names{"work"});
+}
+
+TEST_F(Collection, UnusedWordPurgesInitFunctions) {
+  flag_main_generator = true;
+  func_type *void_fn = b->func(type_void, {});
+  b->defined_proc("init", void_fn);
+  b->defined_proc("work", void_fn);
+  std::string err = collect(nullptr, nullptr, nullptr, nullptr, nullptr, "unused", "init,ghost");
+  EXPECT_EQ(err, "warning: Initialization function does not exist : ghost.\n");
+  EXPECT_EQ(names_of(procs_in_loop), names{"work"});
+  EXPECT_EQ(names_of(procs_before_loop), names{"init"});
+}
+
+TEST_F(Collection, CustomLoopFunctionsKeepInitFunctions) {
+  flag_main_generator = true;
+  func_type *void_fn = b->func(type_void, {});
+  b->defined_proc("init", void_fn);
+  b->defined_proc("work", void_fn);
+  std::string err = collect(nullptr, nullptr, nullptr, nullptr, nullptr, "custom=init,init,none", "init");
+  EXPECT_EQ(err, "warning: function \"none\" does not exist. Fix option -functions-called-in-loop "
+                 "(-main-generator-calls).\n");
+  EXPECT_EQ(names_of(procs_in_loop), names{"init"});
+  EXPECT_EQ(names_of(procs_before_loop), names{"init"});
+}
+
+TEST_F(Collection, FilePrefixFindsOnlyThatOrigin) {
+  b->global_var("count", type_signed, true);
+  b->set_source_file("other.c");
+  var_sym *in_other = b->static_var("count", type_signed);
+  EXPECT_EQ(find_original_symbol(b->fse(), "OTHER.C:count", SYM_VAR), in_other);
+  EXPECT_EQ(find_original_symbol(b->fse(), "other.c:count.field", SYM_VAR), in_other);
+  EXPECT_EQ(find_original_symbol(b->fse(), "prog.c:count", SYM_VAR), nullptr);
+  EXPECT_EQ(find_original_symbol(b->fse(), "count", SYM_PROC), nullptr);
+  // Without a prefix, a symbol without origin wins over a static one.
+  EXPECT_EQ(find_original_symbol(b->fse(), "count", any_sym_kind), global_st->lookup_sym("count", SYM_VAR, false));
+}
+
+TEST_F(Collection, SplitNamesCutsInPlace) {
+  char text[] = "a,,b,c,";
+  string_list *parts = split_names(text, ",");
+  std::vector<std::string> got;
+  for (string_list_e *e = parts->head(); e; e = e->next())
+    got.push_back(e->contents);
+  EXPECT_EQ(got, (names{"a", "b", "c"}));
+  delete parts;
+  string_list *none = split_names(nullptr, ",");
+  EXPECT_TRUE(none->is_empty());
+  delete none;
+}
+
+} // namespace

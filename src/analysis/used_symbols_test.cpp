@@ -1,0 +1,194 @@
+// Used and dead marks on programs made with the builder: the cases a call
+// graph can take, and random graphs checked against the closure algorithm.
+#include "analysis/used_symbols.h"
+#include "driver/options.h"
+#include "ir/builder.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <map>
+#include <random>
+#include <string>
+
+namespace {
+
+class UsedSymbols : public testing::Test {
+protected:
+  void SetUp() override {
+    int argc = 1;
+    char name[] = "used_symbols_test";
+    char *argv[] = {name, nullptr};
+    init_suif(argc, argv);
+    flag_all_procs_used = false;
+    b = new program_builder(nullptr);
+    void_fn = b->func(type_void, {});
+  }
+  void TearDown() override {
+    delete b;
+    free_used_symbols_scratch();
+    exit_suif();
+  }
+  proc_sym *defined(const char *name) { return b->defined_proc(name, void_fn); }
+
+  program_builder *b = nullptr;
+  func_type *void_fn = nullptr;
+};
+
+TEST_F(UsedSymbols, NoCallsLeavesEveryProcedureDead) {
+  proc_sym *f = defined("f"), *g = defined("g");
+  compute_used_symbols(b->fse());
+  EXPECT_TRUE(is_dead_proc(f));
+  EXPECT_TRUE(is_dead_proc(g));
+  EXPECT_FALSE(is_used_symbol(f));
+}
+
+TEST_F(UsedSymbols, CalleeLosesMarkCallerKeepsIt) {
+  proc_sym *f = defined("f"), *g = defined("g");
+  b->add_call(f, g, {});
+  compute_used_symbols(b->fse());
+  EXPECT_TRUE(is_dead_proc(f));
+  EXPECT_FALSE(is_dead_proc(g));
+  EXPECT_TRUE(is_used_symbol(g));
+  EXPECT_FALSE(is_used_symbol(f));
+}
+
+TEST_F(UsedSymbols, CyclesStayDeadUntilCalledFromOutside) {
+  proc_sym *self = defined("self");
+  b->add_call(self, self, {});
+  proc_sym *f = defined("f"), *g = defined("g");
+  b->add_call(f, g, {});
+  b->add_call(g, f, {});
+  compute_used_symbols(b->fse());
+  EXPECT_TRUE(is_dead_proc(self));
+  EXPECT_TRUE(is_dead_proc(f));
+  EXPECT_TRUE(is_dead_proc(g));
+}
+
+TEST_F(UsedSymbols, CallerOfCycleMakesItLive) {
+  proc_sym *f = defined("f"), *g = defined("g"), *h = defined("h");
+  b->add_call(f, g, {});
+  b->add_call(g, f, {});
+  b->add_call(h, f, {});
+  compute_used_symbols(b->fse());
+  EXPECT_FALSE(is_dead_proc(f));
+  EXPECT_FALSE(is_dead_proc(g));
+  EXPECT_TRUE(is_dead_proc(h));
+}
+
+TEST_F(UsedSymbols, AddressTakenIsUsedAndStaysDead) {
+  proc_sym *handler = defined("handler"), *setup = defined("setup");
+  var_sym *table = b->global_var("table", b->ptr(void_fn));
+  b->add_addr_of(setup, handler);
+  b->add_use(setup, table);
+  compute_used_symbols(b->fse());
+  EXPECT_TRUE(is_used_symbol(handler));
+  EXPECT_TRUE(is_dead_proc(handler));
+  EXPECT_TRUE(is_used_symbol(table));
+}
+
+TEST_F(UsedSymbols, UndefinedCalleeIsUsedNeverDead) {
+  proc_sym *ext = b->extern_proc("ext", void_fn), *f = defined("f");
+  b->add_call(f, ext, {});
+  compute_used_symbols(b->fse());
+  EXPECT_TRUE(is_used_symbol(ext));
+  EXPECT_FALSE(is_dead_proc(ext));
+}
+
+TEST_F(UsedSymbols, IndirectCallMakesNoEdge) {
+  proc_sym *f = defined("f"), *g = defined("g");
+  var_sym *fp = b->global_var("fp", b->ptr(void_fn));
+  b->add_indirect_call(f, fp, {});
+  b->add_addr_of(f, g);
+  compute_used_symbols(b->fse());
+  EXPECT_TRUE(is_used_symbol(fp));
+  EXPECT_TRUE(is_dead_proc(g));
+}
+
+TEST_F(UsedSymbols, AllProcsUsedKeepsEveryDeadMark) {
+  flag_all_procs_used = true;
+  proc_sym *f = defined("f"), *g = defined("g");
+  b->add_call(f, g, {});
+  compute_used_symbols(b->fse());
+  EXPECT_TRUE(is_dead_proc(g));
+  EXPECT_TRUE(is_used_symbol(g));
+  flag_all_procs_used = false;
+}
+
+TEST_F(UsedSymbols, DeadMarkIsRemovedOnceAndOtherAnnotationsStay) {
+  proc_sym *f = defined("f"), *g = defined("g");
+  b->annotate(g, "note", {immed(7)});
+  b->add_call(f, g, {});
+  compute_used_symbols(b->fse());
+  EXPECT_FALSE(is_dead_proc(g));
+  EXPECT_NE(g->peek_annote(intern("note")), nullptr);
+}
+
+// The dead marks as the closure over call lists gives them, on named procedures.
+std::map<std::string, bool> dead_by_closure(const std::vector<std::string> &names,
+                                            const std::vector<std::pair<int, int>> &calls) {
+  std::map<int, std::vector<int>> call_map;
+  std::vector<int> callers;
+  auto add = [&](int c, int x) {
+    auto found = call_map.find(c);
+    if (found == call_map.end()) {
+      call_map[c] = {x};
+      callers.push_back(c);
+      return true;
+    }
+    if (std::find(found->second.begin(), found->second.end(), x) != found->second.end())
+      return false;
+    found->second.push_back(x);
+    return true;
+  };
+  for (auto [c, x] : calls)
+    add(c, x);
+  for (bool changed = true; changed;) {
+    changed = false;
+    for (int c : std::vector<int>(callers))
+      for (size_t i = 0; i < call_map[c].size(); i++)
+        if (call_map.count(call_map[c][i]))
+          for (int y : std::vector<int>(call_map[call_map[c][i]]))
+            changed |= add(c, y);
+  }
+  std::map<std::string, bool> dead;
+  for (const auto &n : names)
+    dead[n] = true;
+  for (int c : callers)
+    for (int x : call_map[c]) {
+      auto back = call_map.find(x);
+      if (back != call_map.end() && std::count(back->second.begin(), back->second.end(), c))
+        continue;
+      dead[names[x]] = false;
+    }
+  return dead;
+}
+
+TEST_F(UsedSymbols, RandomProgramsMatchClosure) {
+  std::mt19937 rng(77);
+  for (int round = 0; round < 60; round++) {
+    if (round) {
+      TearDown();
+      SetUp();
+    }
+    int n = 1 + rng() % 14;
+    std::vector<std::string> names;
+    std::vector<proc_sym *> procs;
+    for (int i = 0; i < n; i++) {
+      names.push_back("p" + std::to_string(i));
+      procs.push_back(defined(names.back().c_str()));
+    }
+    std::vector<std::pair<int, int>> calls;
+    for (int e = rng() % (2 * n + 1); e > 0; e--) {
+      int c = rng() % n, x = rng() % n;
+      calls.push_back({c, x});
+      b->add_call(procs[c], procs[x], {});
+    }
+    compute_used_symbols(b->fse());
+    std::map<std::string, bool> expected = dead_by_closure(names, calls);
+    for (int i = 0; i < n; i++)
+      ASSERT_EQ(is_dead_proc(procs[i]), expected[names[i]]) << "round " << round << ", " << names[i];
+  }
+}
+
+} // namespace

@@ -1,0 +1,39 @@
+// The two range passes: -drs-gen (alone, or inside the stub mode) and -cpp-drs-gen.
+//
+// Both keep their fixed order of steps. Reading a range file, binding entries
+// to symbols, applying them and exporting the template are separate stages;
+// where a stage is not part of this build yet, the pass goes on to the next.
+#include "drs/drs_model.h"
+#include "driver/options.h"
+
+void run_drs_pass(const char *path, file_set_entry *fse, sym_node_list *procs, sym_node_list *vars) {
+  drs_fse = fse;
+  drs_main_procs = procs;
+  drs_main_vars = vars;
+  drs_unit_by_unit = flag_unit_by_unit;
+  drs_file_version = 0;
+
+  if (path) {
+    drs_file_path = path;
+    // Reading: an XML file by its version, anything else as text.
+  }
+
+  // Pragma entries always come after the file's.
+  drs_read_entries->splice(drs_read_entries->end(), *drs_pragma_entries);
+
+  if (!drs_read_entries->empty()) {
+    // Binding and application of the entries go here; they may create symbols.
+    fse->parent()->globals->number_globals();
+  }
+
+  // The template export runs last, also when nothing was read.
+}
+
+// Speaks no word: no warnings and no log, whatever the options say.
+void run_cpp_drs_pass(const char *path, file_set_entry *fse) {
+  drs_file_path = path;
+  drs_fse = fse;
+  flag_no_warnings_for_drs = true;
+  drs_no_log = true;
+  // Reading as text, binding, then the assert and permanent application go here.
+}
