@@ -53,13 +53,14 @@ static void clean_write_pointer(string_list *result, const char *lvalue, type_no
   }
   if (type->peek_annote(handled_mark()))
     return;
-  type_node *target = static_cast<ptr_type *>(type)->ref_type()->unqual();
-  if (target->op() == TYPE_VOID) {
+  type_node *referent = static_cast<ptr_type *>(type)->ref_type();
+  if (referent->unqual()->op() == TYPE_VOID) {
     add_piece(result, "((__QVT__CHAR *)%s)[qvt_random_int] = %s;\n", lvalue, random_var_for(type_char));
     return;
   }
+  // The referent keeps its qualifiers: memory reached through a pointer to const isn't written.
   set_handled(type);
-  move_pieces(result, clean_write(format_text("%s[qvt_random_int]", lvalue), target, false));
+  move_pieces(result, clean_write(format_text("%s[qvt_random_int]", lvalue), referent, false));
   clear_handled(type);
 }
 
