@@ -8,6 +8,9 @@
 #include "driver/options.h"
 #include "driver/output_files.h"
 #include "drs/drs_model.h"
+#include "maingen/entry_point.h"
+#include "stubs/stub_driver.h"
+#include "stubs/user_stubs.h"
 #include "types/fundamental_types_header.h"
 #include "types/type_emitter.h"
 
@@ -37,6 +40,16 @@ void run_stub_mode(const run_args &args) {
   // Generated C files: stubs (or one prologue-only stub file with -no-stubs),
   // the entry point, the user stub skeleton, the main, and the init files of
   // extern and ranged variables.
+  if (flag_no_stubs) {
+    string_list *none = new string_list;
+    write_stub_file(none);
+    delete none;
+  } else {
+    generate_stubs();
+  }
+  write_entry_point();
+  if (!flag_no_user_stubs_file)
+    write_user_stubs_file();
 
   if (exit_status != 0)
     print_error_explanation();
