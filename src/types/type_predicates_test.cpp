@@ -1,0 +1,396 @@
+// Type predicates. The constness walk is checked on the shapes that matter (cycles, const
+// placement, arrays, functions) and against a direct transcription of the path-guarded
+// walk on many random type graphs; path and range helpers on their boundaries.
+#include "types/type_predicates.h"
+
+#include <cstring>
+#include <random>
+
+#include "drs/drs_model.h"
+#include "types/ir_test_fixture.h"
+
+namespace {
+
+// The walk as first written: a guard mark on each type of the current path.
+const char *literal_guard() {
+  static const char *k = nullptr;
+  if (!k) k = lexicon->enter("literal_const_guard")->sp;
+  return k;
+}
+
+int literal_param_is_const(type_node *type);
+
+int literal_target_is_const(type_node *type) {
+  for (;;) {
+    if (type->op() > TYPE_VOLATILE) return 0;
+    switch (type->op()) {
+    case TYPE_ARRAY: type = static_cast<array_type *>(type)->elem_type(); continue;
+    case TYPE_STRUCT:
+    case TYPE_UNION: {
+      struct_type *s = static_cast<struct_type *>(type->unqual());
+      for (unsigned i = 0; i < s->num_fields(); i++)
+        if (!literal_target_is_const(s->field_type(i))) return 0;
+      return 1;
+    }
+    case TYPE_CONST: return literal_param_is_const(type->unqual());
+    case TYPE_VOLATILE: type = type->unqual(); continue;
+    default: return 0;
+    }
+  }
+}
+
+int literal_param_is_const(type_node *type) {
+  if (type->peek_annote(literal_guard())) return 1;
+  type_node *u = type->unqual();
+  int r = 1;
+  switch (u->op()) {
+  case TYPE_PTR:
+    type->append_annote(literal_guard());
+    r = literal_target_is_const(static_cast<ptr_type *>(u)->ref_type());
+    delete type->get_annote(literal_guard());
+    return r;
+  case TYPE_ARRAY:
+    type->append_annote(literal_guard());
+    r = literal_param_is_const(static_cast<array_type *>(u)->elem_type());
+    delete type->get_annote(literal_guard());
+    return r;
+  case TYPE_FUNC: return 0;
+  case TYPE_STRUCT:
+  case TYPE_UNION: {
+    type->append_annote(literal_guard());
+    struct_type *s = static_cast<struct_type *>(u);
+    for (unsigned i = 0; i < s->num_fields(); i++)
+      if (!literal_param_is_const(s->field_type(i)->unqual())) {
+        r = 0;
+        break;
+      }
+    delete type->get_annote(literal_guard());
+    return r;
+  }
+  default: return 1;
+  }
+}
+
+class type_predicates_test : public ir_test {};
+
+TEST_F(type_predicates_test, constness_of_pointers) {
+  EXPECT_TRUE(is_const_param(b->ptr(b->const_of(type_char))));
+  EXPECT_FALSE(is_const_param(b->const_of(b->ptr(type_char))));
+  EXPECT_FALSE(is_const_param(b->ptr(type_char)));
+  EXPECT_TRUE(is_const_param(type_signed));
+  EXPECT_FALSE(is_const_param(b->ptr(b->func(type_void, {}))));
+  // Only a const on the outside counts: volatile hides the const below it.
+  EXPECT_TRUE(is_const_param(b->ptr(b->const_of(b->volatile_of(type_signed)))));
+  EXPECT_FALSE(is_const_param(b->ptr(b->volatile_of(b->const_of(type_signed)))));
+  EXPECT_TRUE(is_const_param(b->ptr(b->array(b->const_of(type_signed), 4))));
+  EXPECT_FALSE(is_const_param(b->ptr(b->array(type_signed, 4))));
+}
+
+TEST_F(type_predicates_test, constness_of_structs) {
+  struct_type *ints = b->struct_of("ints", {{"a", type_signed}, {"b", type_double}});
+  struct_type *holds_ptr = b->struct_of("holds", {{"a", type_signed}, {"p", b->ptr(type_char)}});
+  struct_type *empty = b->struct_of("empty", {});
+  EXPECT_TRUE(is_const_param(ints));
+  EXPECT_FALSE(is_const_param(holds_ptr));
+  EXPECT_TRUE(is_const_param(empty));
+  EXPECT_EQ(target_is_const(empty), 1);
+  EXPECT_EQ(param_type_is_const(empty), 1);
+  EXPECT_TRUE(is_const_param(b->ptr(b->const_of(ints))));
+  EXPECT_FALSE(is_const_param(b->ptr(ints)));
+}
+
+TEST_F(type_predicates_test, cycles_end_on_the_type_under_examination) {
+  // struct s { struct s *next; }: writable through next.
+  struct_type *s = b->struct_of("s", {{"next", type_signed}});
+  ptr_type *ps = b->ptr(s);
+  s->set_field_type(0, ps);
+  EXPECT_FALSE(is_const_param(ps));
+  EXPECT_FALSE(is_const_param(s));
+  // struct c { const struct c *next; } behind a pointer to const: constant all along.
+  struct_type *c = b->struct_of("c", {{"next", type_signed}});
+  ptr_type *pcc = b->ptr(b->const_of(c));
+  c->set_field_type(0, pcc);
+  EXPECT_TRUE(is_const_param(pcc));
+  EXPECT_EQ(literal_param_is_const(pcc), 1);
+}
+
+TEST_F(type_predicates_test, answer_is_cached_on_the_parameter_type) {
+  ptr_type *p = b->ptr(b->const_of(type_char));
+  EXPECT_TRUE(is_const_param(p));
+  annote *a = p->peek_annote(k_const_param_type);
+  ASSERT_NE(a, nullptr);
+  EXPECT_EQ(a->immeds()->head()->contents.integer(), 1);
+  // The cached answer is what is read back, whatever the type says.
+  a->immeds()->head()->contents = immed(0);
+  EXPECT_FALSE(is_const_param(p));
+}
+
+// Random type graphs: structs and unions that point to each other (cycles), hold each other by
+// value (only earlier ones), and fields of every other kind, with qualifiers anywhere.
+struct graph_maker {
+  program_builder *b;
+  std::mt19937 &rng;
+  std::vector<struct_type *> aggregates;
+
+  int pick(int n) { return std::uniform_int_distribution<int>(0, n - 1)(rng); }
+
+  type_node *random_type(int depth, size_t by_value_limit) {
+    int k = pick(depth > 2 ? 5 : 11);
+    switch (k) {
+    case 0: return type_signed;
+    case 1: return type_double;
+    case 2: return b->enum_of("e", {{"A", 0}});
+    case 3: return aggregates.empty() ? type_char : b->ptr(aggregates[pick((int)aggregates.size())]);
+    case 4: return by_value_limit ? aggregates[pick((int)by_value_limit)] : type_signed;
+    case 5: return b->ptr(random_type(depth + 1, by_value_limit));
+    case 6: return b->const_of(random_type(depth + 1, by_value_limit));
+    case 7: return b->volatile_of(random_type(depth + 1, by_value_limit));
+    case 8: return b->array(random_type(depth + 1, by_value_limit), 1 + pick(3));
+    case 9: return b->func(type_signed, {random_type(depth + 1, by_value_limit)});
+    default: return b->ptr(b->const_of(random_type(depth + 1, by_value_limit)));
+    }
+  }
+
+  void make(int n) {
+    for (int i = 0; i < n; i++) {
+      int fields = pick(4);
+      std::vector<field_spec> none;
+      struct_type *s = pick(4) == 0 ? b->union_of("u", {}) : b->struct_of("s", {});
+      s->set_num_fields(fields);
+      for (int f = 0; f < fields; f++) {
+        s->set_field_name(f, "f");
+        s->set_field_type(f, type_signed);
+      }
+      aggregates.push_back(s);
+    }
+    for (size_t i = 0; i < aggregates.size(); i++)
+      for (unsigned f = 0; f < aggregates[i]->num_fields(); f++) aggregates[i]->set_field_type(f, random_type(0, i));
+  }
+};
+
+TEST_F(type_predicates_test, fast_walk_agrees_with_the_path_guarded_walk) {
+  std::mt19937 rng(12345);
+  int compared = 0, constant = 0;
+  for (int round = 0; round < 400; round++) {
+    graph_maker g{b, rng, {}};
+    g.make(1 + g.pick(7));
+    std::vector<type_node *> roots;
+    for (struct_type *s : g.aggregates) {
+      roots.push_back(s);
+      roots.push_back(b->ptr(s));
+      roots.push_back(b->ptr(b->const_of(s)));
+      for (int i = 0; i < 3; i++) roots.push_back(g.random_type(0, g.aggregates.size()));
+    }
+    for (type_node *t : roots) {
+      int want = literal_param_is_const(t->unqual());
+      ASSERT_EQ(param_type_is_const(t->unqual()), want) << "round " << round;
+      ASSERT_EQ(target_is_const(t), literal_target_is_const(t)) << "round " << round;
+      ASSERT_EQ(is_const_param(t), want != 0) << "round " << round;
+      compared++;
+      constant += want;
+    }
+  }
+  // Both answers occur often enough for the comparison to mean something.
+  EXPECT_GT(constant, compared / 10);
+  EXPECT_LT(constant, compared - compared / 10);
+}
+
+TEST_F(type_predicates_test, shared_parts_are_walked_once) {
+  // A ladder of structs, each holding two pointers to const of the next: the path-guarded
+  // walk visits the last rung 2^n times; the answer must come at once.
+  const int n = 60;
+  std::vector<struct_type *> rungs;
+  for (int i = 0; i < n; i++) rungs.push_back(b->struct_of("r", {{"a", type_signed}, {"b", type_signed}}));
+  for (int i = 0; i + 1 < n; i++) {
+    ptr_type *p = b->ptr(b->const_of(rungs[i + 1]));
+    rungs[i]->set_field_type(0, p);
+    rungs[i]->set_field_type(1, p);
+  }
+  EXPECT_TRUE(is_const_param(b->ptr(b->const_of(rungs[0]))));
+  rungs[n - 1]->set_field_type(1, b->ptr(type_char));
+  forget_predicate_marks();
+  EXPECT_FALSE(is_const_param(b->ptr(b->const_of(rungs[1]))));
+}
+
+TEST_F(type_predicates_test, pointer_shapes) {
+  enum_type *e = b->enum_of("e", {{"A", 1}});
+  EXPECT_EQ(pointer_to_basic(b->ptr(b->const_of(type_signed))), type_signed);
+  EXPECT_EQ(pointer_to_basic(b->const_of(b->ptr(type_float))), type_float);
+  EXPECT_EQ(pointer_to_basic(b->ptr(e)), e);
+  EXPECT_EQ(pointer_to_basic(b->ptr(b->ptr(type_signed))), nullptr);
+  EXPECT_EQ(pointer_to_basic(type_signed), nullptr);
+  func_type *f = b->func(type_void, {});
+  EXPECT_EQ(pointer_to_function(b->ptr(f)), f);
+  EXPECT_EQ(pointer_to_function(b->ptr(type_void)), nullptr);
+}
+
+TEST_F(type_predicates_test, join_strings) {
+  string_list l;
+  char *empty = join_strings(&l);
+  EXPECT_STREQ(empty, "");
+  l.append("a, ");
+  l.append("");
+  l.append("b");
+  char *joined = join_strings(&l);
+  EXPECT_STREQ(joined, "a, b");
+  delete[] empty;
+  delete[] joined;
+}
+
+TEST_F(type_predicates_test, split_path_head) {
+  const char *rest = "untouched";
+  EXPECT_EQ(split_path_head(nullptr, &rest), nullptr);
+  EXPECT_EQ(rest, nullptr);
+  EXPECT_STREQ(split_path_head("file.c:var.field", &rest), "file.c:var");
+  EXPECT_STREQ(rest, "field");
+  EXPECT_STREQ(split_path_head("v.f.g", &rest), "v");
+  EXPECT_STREQ(rest, "f.g");
+  EXPECT_STREQ(split_path_head("p*", &rest), "p");
+  EXPECT_STREQ(rest, "*");
+  EXPECT_STREQ(split_path_head("*x.y", &rest), "*x");
+  EXPECT_STREQ(rest, "y");
+  EXPECT_STREQ(split_path_head("a:b*c", &rest), "a:b");
+  EXPECT_STREQ(rest, "*c");
+  EXPECT_STREQ(split_path_head("f.#1*", &rest), "f");
+  EXPECT_STREQ(rest, "#1*");
+  const char *whole = "x";
+  EXPECT_EQ(split_path_head(whole, &rest), whole);
+  EXPECT_EQ(rest, nullptr);
+  EXPECT_STREQ(split_path_head("*", &rest), "*");
+  EXPECT_EQ(rest, nullptr);
+  EXPECT_STREQ(split_path_head("a.b", nullptr), "a");
+}
+
+TEST_F(type_predicates_test, find_field_through_anonymous_members) {
+  struct_type *inner2 = b->struct_of("i2", {{"deep", type_signed}});
+  struct_type *u = b->union_of("9", {{"u1", type_signed}, {"u2", type_float}, {"qvtunnsubs1", inner2}});
+  struct_type *s = b->struct_of("s", {{"a", type_signed}, {"qvtunnsubs0", b->const_of(u)}, {"b", type_signed}});
+  EXPECT_EQ(find_field("a", s), 0);
+  EXPECT_EQ(find_field("u2", s), 1);
+  EXPECT_EQ(find_field("deep", s), 1);
+  EXPECT_EQ(find_field("b", s), 2);
+  EXPECT_EQ(find_field("qvtunnsubs0", s), 1);
+  // A name of an anonymous member itself is never looked for inside another one.
+  EXPECT_EQ(find_field("qvtunnsubs1", s), -1);
+  EXPECT_EQ(find_field("zz", s), -1);
+  EXPECT_EQ(find_field("a", b->struct_of("e", {})), -1);
+}
+
+TEST_F(type_predicates_test, key_prefix_matches_at_element_boundaries) {
+  EXPECT_TRUE(key_prefix_matches("f.#1", "f.#1"));
+  EXPECT_TRUE(key_prefix_matches("f.#1", "f.#1.x"));
+  EXPECT_TRUE(key_prefix_matches("f.#1", "f.#1*"));
+  EXPECT_FALSE(key_prefix_matches("f.#1", "f.#10"));
+  EXPECT_FALSE(key_prefix_matches("f", "fa"));
+  EXPECT_TRUE(key_prefix_matches("f", "f:x"));
+  EXPECT_TRUE(key_prefix_matches("f", "fA"));
+  EXPECT_TRUE(key_prefix_matches("f", "fY"));
+  EXPECT_FALSE(key_prefix_matches("f", "fZ"));
+  EXPECT_FALSE(key_prefix_matches("f", "f_"));
+  EXPECT_TRUE(key_prefix_matches("f", "f\xc3\xa9"));
+  EXPECT_FALSE(key_prefix_matches("g", "f"));
+  EXPECT_FALSE(key_prefix_matches(nullptr, "f"));
+  EXPECT_FALSE(key_prefix_matches("f", nullptr));
+}
+
+TEST_F(type_predicates_test, pointer_kind_codes) {
+  EXPECT_EQ(pointer_kind_from_annote(0), DRS_PTR_MULTI);
+  EXPECT_EQ(pointer_kind_from_annote(1), DRS_PTR_SINGLE);
+  EXPECT_EQ(pointer_kind_from_annote(2), DRS_PTR_NONE);
+  EXPECT_EQ(pointer_kind_from_annote(3), DRS_PTR_MULTI_CERTAIN_WRITE);
+  EXPECT_EQ(pointer_kind_from_annote(4), DRS_PTR_SINGLE_CERTAIN_WRITE);
+  EXPECT_EQ(pointer_kind_from_annote(5), DRS_PTR_MULTI);
+}
+
+TEST_F(type_predicates_test, subranges_of_a_procedure) {
+  proc_sym *f = b->extern_proc("f", b->func(type_signed, {b->ptr(type_signed)}));
+  b->annotate(f, k_drs, {immed("init"), immed("f.return"), immed("0"), immed("10")});
+  b->annotate(f, k_drs, {immed("init"), immed("f.#0"), immed("1"), immed("2"), immed(3)});
+  b->annotate(f, k_drs, {immed("init"), immed("f.#01"), immed("5"), immed("6")});
+  b->annotate(f, k_drs, {immed(7), immed("f.#0"), immed("8"), immed("9")});
+  b->annotate(f, k_source_coordinates, {immed("f.#0")});
+
+  subrange_list *exact = drs_subranges_of(f, "f.return", true);
+  ASSERT_NE(exact, nullptr);
+  ASSERT_EQ(exact->size(), 1u);
+  EXPECT_STREQ((*exact)[0]->path, "");
+  EXPECT_STREQ((*exact)[0]->min, "0");
+  EXPECT_STREQ((*exact)[0]->max, "10");
+  EXPECT_EQ((*exact)[0]->pointer_mode, DRS_PTR_MULTI);
+
+  subrange_list *all = drs_subranges_of(f, "f", false);
+  ASSERT_NE(all, nullptr);
+  ASSERT_EQ(all->size(), 3u);
+  EXPECT_STREQ((*all)[0]->path, "return");
+  EXPECT_STREQ((*all)[1]->path, "#0");
+  EXPECT_EQ((*all)[1]->pointer_mode, DRS_PTR_MULTI_CERTAIN_WRITE);
+  EXPECT_STREQ((*all)[2]->path, "#01");
+
+  subrange_list *arg = drs_subranges_of(f, "f.#0", false);
+  ASSERT_NE(arg, nullptr);
+  EXPECT_EQ(arg->size(), 1u);
+  EXPECT_EQ(drs_subranges_of(f, "f.#2", false), nullptr);
+  EXPECT_EQ(drs_subranges_of(f, "f.ret", true), nullptr);
+
+  subrange_list *copy = copy_subranges(all);
+  ASSERT_EQ(copy->size(), 3u);
+  EXPECT_NE((*copy)[0]->path, (*all)[0]->path);
+  EXPECT_STREQ((*copy)[0]->path, "return");
+  EXPECT_EQ((*copy)[1]->pointer_mode, DRS_PTR_MULTI_CERTAIN_WRITE);
+  subrange_list *none = copy_subranges(nullptr);
+  ASSERT_NE(none, nullptr);
+  EXPECT_TRUE(none->empty());
+}
+
+class drs_records_test : public type_predicates_test {
+protected:
+  void SetUp() override {
+    type_predicates_test::SetUp();
+    drs_init_state();
+  }
+  void TearDown() override {
+    drs_free_state();
+    type_predicates_test::TearDown();
+  }
+  void add(const char *name, bool handled) {
+    drs_entry *e = drs_new_entry(DRS_MODE_INIT, name, "0", "1", 1, DRS_PTR_MULTI);
+    e->fully_handled = handled;
+    drs_read_entries->push_back(e);
+  }
+};
+
+TEST_F(drs_records_test, all_entries_flagged) {
+  EXPECT_FALSE(all_drs_entries_flagged("f.#0", false, true, true));
+  add("f.#0*", true);
+  add("f.#0*.x", true);
+  add("g", false);
+  EXPECT_TRUE(all_drs_entries_flagged("f.#0", false, true, true));
+  EXPECT_FALSE(all_drs_entries_flagged("f.#0", true, true, true));
+  EXPECT_TRUE(all_drs_entries_flagged("f.#0*", true, true, true));
+  EXPECT_TRUE(all_drs_entries_flagged("g", true, false, true));
+  add("f.#0*.y", false);
+  EXPECT_FALSE(all_drs_entries_flagged("f.#0", false, true, true));
+  EXPECT_TRUE(all_drs_entries_flagged("f.#0", false, true, false));
+  EXPECT_TRUE(all_drs_entries_flagged("f.#0", false, false, false));
+  EXPECT_FALSE(all_drs_entries_flagged("h", false, true, false));
+}
+
+TEST_F(drs_records_test, write_is_uncertain) {
+  drs_file_version = -1;
+  EXPECT_FALSE(drs_write_is_uncertain(DRS_PTR_NONE, "p"));
+  EXPECT_FALSE(drs_write_is_uncertain(DRS_PTR_SINGLE_CERTAIN_WRITE, "p"));
+  EXPECT_FALSE(drs_write_is_uncertain(DRS_PTR_MULTI_CERTAIN_WRITE, "p"));
+  EXPECT_TRUE(drs_write_is_uncertain(DRS_PTR_MULTI, "p"));
+  add("p*", true);
+  EXPECT_TRUE(drs_write_is_uncertain(DRS_PTR_SINGLE, "p"));
+  add("p*.x", false);
+  EXPECT_FALSE(drs_write_is_uncertain(DRS_PTR_SINGLE, "p"));
+  drs_file_version = 1;
+  EXPECT_FALSE(drs_write_is_uncertain(DRS_PTR_MULTI, "p"));
+  drs_file_version = 2;
+  EXPECT_TRUE(drs_write_is_uncertain(DRS_PTR_MULTI, "p"));
+  drs_file_version = 0;
+  EXPECT_TRUE(drs_write_is_uncertain(DRS_PTR_MULTI, "p"));
+}
+
+}  // namespace
