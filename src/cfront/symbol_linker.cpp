@@ -1,0 +1,366 @@
+// One pass over the file-level declarations of each unit, in source order,
+// puts symbols into the tables in order of first appearance. A declaration of
+// a system header enters only when the unit refers to it: the program is what
+// the user wrote and what it uses, not the whole C library. Symbols are
+// remembered per unit by canonical declaration, and across units by name.
+#include "cfront/symbol_linker.h"
+
+#include "cfront/body_builder.h"
+#include "cfront/orig_spelling.h"
+#include "cfront/type_converter.h"
+#include "ir/ir.h"
+
+#include <clang/AST/ASTContext.h>
+#include <clang/AST/Decl.h>
+#include <clang/AST/RecursiveASTVisitor.h>
+#include <clang/Basic/SourceManager.h>
+#include <clang/Basic/TargetInfo.h>
+
+#include <cstdio>
+#include <string>
+#include <unordered_map>
+#include <unordered_set>
+#include <vector>
+
+namespace {
+
+file_set_entry *entry = nullptr;
+clang::ASTContext *ctx = nullptr;
+
+std::unordered_map<std::string, proc_sym *> global_procs;
+std::unordered_map<std::string, var_sym *> global_vars;
+std::unordered_map<const clang::Decl *, sym_node *> unit_syms;  // canonical decl -> symbol
+std::vector<var_sym *> linked_vars;                            // global and file variables, in order
+std::unordered_set<var_sym *> read_vars;
+std::unordered_set<var_sym *> user_declared_vars;
+std::unordered_map<sym_node *, std::string> first_place;
+std::unordered_set<std::string> fundamental_seen;
+
+std::string place_text(const clang::Decl *d) {
+    coord c = coord_of(d);
+    return std::string(c.file ? c.file : "<built-in>") + ":" + std::to_string(c.line);
+}
+
+bool in_system_header(const clang::Decl *d) {
+    clang::SourceLocation loc = d->getLocation();
+    if (loc.isInvalid()) return true;  // the compiler's own declarations
+    return ctx->getSourceManager().isInSystemHeader(ctx->getSourceManager().getExpansionLoc(loc));
+}
+
+// Declarations of system headers and of the compiler count only when used.
+bool wanted(const clang::Decl *d) {
+    return !in_system_header(d) || d->isReferenced();
+}
+
+void set_coordinates(suif_object *o, const clang::Decl *d) {
+    delete o->get_annote(k_source_coordinates);
+    o->annotes()->append(coordinate_to_annote(k_source_coordinates, coord_of(d)));
+}
+
+bool name_taken(const char *name) {
+    global_or_file_symtab *ft = entry->symtab();
+    return global_st->lookup_sym(name, SYM_PROC, false) || global_st->lookup_sym(name, SYM_VAR, false) ||
+           ft->lookup_sym(name, SYM_PROC, false) || ft->lookup_sym(name, SYM_VAR, false);
+}
+
+// A name for a static that no other symbol of the program has: its own if
+// free, else with the base name of its file, else with a number too.
+std::string static_name(const std::string &name, const clang::Decl *d) {
+    if (!name_taken(name.c_str())) return name;
+    std::string file = coord_of(d).file ? coord_of(d).file : "";
+    size_t slash = file.find_last_of('/');
+    if (slash != std::string::npos) file = file.substr(slash + 1);
+    size_t dot = file.find('.');
+    if (dot != std::string::npos) file = file.substr(0, dot);
+    for (char &c : file)
+        if (!isalnum((unsigned char)c)) c = '_';
+    std::string base = name + "_" + file;
+    std::string cand = base;
+    for (int i = 2; name_taken(cand.c_str()); i++) cand = base + "_" + std::to_string(i);
+    return cand;
+}
+
+func_type *function_type_of(const clang::FunctionDecl *fd) {
+    return static_cast<func_type *>(ir_type(fd->getMostRecentDecl()->getType()));
+}
+
+// The unit's view of a variable's type; an array of unknown bound that
+// clang completed at the end of the unit keeps its unknown bound.
+type_node *variable_type_of(const clang::VarDecl *vd, bool *tentative_array) {
+    *tentative_array = false;
+    for (const clang::VarDecl *r : vd->redecls()) {
+        if (r->isThisDeclarationADefinition() == clang::VarDecl::TentativeDefinition && r->getTypeSourceInfo() &&
+            r->getTypeSourceInfo()->getType()->isIncompleteArrayType() && r->isFileVarDecl()) {
+            *tentative_array = true;
+            return ir_type(r->getTypeSourceInfo()->getType());
+        }
+    }
+    return ir_type(vd->getMostRecentDecl()->getType());
+}
+
+void merge_proc_type(proc_sym *p, const clang::FunctionDecl *fd) {
+    func_type *t = function_type_of(fd);
+    if (p->type() == t) return;
+    if (!t->args_known()) return;
+    if (!p->type()->args_known()) {
+        p->set_type(t);
+        annotate_orig_types(p, *ctx, fd->getMostRecentDecl());
+        return;
+    }
+    fprintf(stderr, "qvt-cfront: warning: function '%s' is declared with different types at %s and %s\n",
+            p->true_name(), first_place[p].c_str(), place_text(fd).c_str());
+}
+
+void merge_var_type(var_sym *v, type_node *t, const clang::VarDecl *vd) {
+    if (v->type() == t) return;
+    type_node *old = v->type();
+    if (old->is_array() && t->is_array() && static_cast<array_type *>(old)->are_bounds_unknown() &&
+        !static_cast<array_type *>(t)->are_bounds_unknown()) {
+        v->set_type(t);
+        return;
+    }
+    if (t->is_array() && static_cast<array_type *>(t)->are_bounds_unknown()) return;
+    fprintf(stderr, "qvt-cfront: warning: variable '%s' is declared with different types at %s and %s\n",
+            v->true_name(), first_place[v].c_str(), place_text(vd).c_str());
+}
+
+void define_var(var_sym *v, const clang::VarDecl *def, bool tentative_array) {
+    if (v->has_var_def()) return;
+    var_def *d = new var_def(v, (int)ctx->toBits(ctx->getDeclAlign(def)));
+    v->parent()->add_def(d);
+    set_coordinates(d, def);
+    // A defined variable is located by its definition.
+    delete v->get_annote(k_source_coordinates);
+    if (tentative_array) v->set_flag(SYMFLAG_TENTATIVE_ARRAY);
+}
+
+// References from the initialiser of a global: they read what they name,
+// and a function named there is part of the program.
+class init_visitor : public clang::RecursiveASTVisitor<init_visitor> {
+public:
+    bool VisitDeclRefExpr(clang::DeclRefExpr *e) {
+        if (auto *fd = llvm::dyn_cast<clang::FunctionDecl>(e->getDecl())) linked_proc(fd);
+        if (auto *vd = llvm::dyn_cast<clang::VarDecl>(e->getDecl()))
+            if (vd->hasLinkage()) note_read(linked_var(vd));
+        return true;
+    }
+};
+
+void add_function(const clang::FunctionDecl *fd) {
+    if (!wanted(fd)) return;
+    proc_sym *p = linked_proc(fd);
+    if (!fd->doesThisDeclarationHaveABody()) return;
+    if (p->src_lang() != src_unknown) {
+        fprintf(stderr, "qvt-cfront: warning: function '%s' is defined at %s and %s; the first is kept\n",
+                p->true_name(), first_place[p].c_str(), place_text(fd).c_str());
+        return;
+    }
+    p->set_src_lang(src_c);
+    p->set_file(entry);
+    set_coordinates(p, fd);
+    first_place[p] = place_text(fd);
+    annotate_orig_types(p, *ctx, fd);
+    build_body(p, fd, *ctx);
+}
+
+void add_variable(const clang::VarDecl *vd) {
+    if (!wanted(vd)) return;
+    var_sym *v = linked_var(vd);
+    if (!in_system_header(vd)) user_declared_vars.insert(v);
+    if (vd->isThisDeclarationADefinition() != clang::VarDecl::DeclarationOnly) {
+        bool tentative_array = false;
+        variable_type_of(vd, &tentative_array);
+        const clang::VarDecl *def = vd->getDefinition();
+        define_var(v, def ? def : vd, tentative_array);
+    }
+    if (const clang::Expr *init = vd->getInit()) init_visitor().TraverseStmt(const_cast<clang::Expr *>(init));
+}
+
+// A user's own typedef of a fundamental type replaces the target's.
+void add_typedef(const clang::TypedefNameDecl *td) {
+    if (in_system_header(td)) return;
+    std::string name = td->getName().str();
+    const char *annote_name = nullptr;
+    if (name == "size_t") annote_name = k_size_t;
+    else if (name == "ptrdiff_t") annote_name = k_ptrdiff_t;
+    else if (name == "wchar_t") annote_name = k_wchar_t;
+    else if (name == "wint_t") annote_name = k_wint_t;
+    if (!annote_name || !fundamental_seen.insert(name).second) return;
+    clang::QualType t = ctx->getCanonicalType(td->getUnderlyingType());
+    if (const auto *et = t->getAs<clang::EnumType>()) t = et->getDecl()->getIntegerType();
+    int bits = (int)ctx->getTypeSize(t);
+    const clang::TargetInfo &ti = ctx->getTargetInfo();
+    C_types c = C_none;
+    // The smallest C type of that size, as the target's headers would name it.
+    if (bits == (int)ti.getCharWidth()) c = C_char;
+    else if (bits == (int)ti.getShortWidth()) c = C_short;
+    else if (bits == (int)ti.getIntWidth()) c = C_int;
+    else if (bits == (int)ti.getLongWidth()) c = C_long;
+    else if (bits == (int)ti.getLongLongWidth()) c = C_longlong;
+    if (const auto *bt = t->getAs<clang::BuiltinType>()) {
+        switch (bt->getKind()) {
+        case clang::BuiltinType::Long:
+        case clang::BuiltinType::ULong: c = C_long; break;
+        case clang::BuiltinType::LongLong:
+        case clang::BuiltinType::ULongLong: c = C_longlong; break;
+        default: break;
+        }
+    }
+    immed_list *l = new immed_list;
+    l->append(immed(t->isSignedIntegerOrEnumerationType() ? 1 : 0));
+    l->append(immed((int)c));
+    global_st->append_annote(annote_name, l);
+}
+
+void add_decls(const clang::DeclContext *dc) {
+    for (const clang::Decl *d : dc->decls()) {
+        if (const auto *fd = llvm::dyn_cast<clang::FunctionDecl>(d)) add_function(fd);
+        else if (const auto *vd = llvm::dyn_cast<clang::VarDecl>(d)) add_variable(vd);
+        else if (const auto *td = llvm::dyn_cast<clang::TypedefNameDecl>(d)) add_typedef(td);
+        else if (const auto *ls = llvm::dyn_cast<clang::LinkageSpecDecl>(d)) add_decls(ls);
+    }
+}
+
+}  // namespace
+
+coord coord_of(const clang::Decl *d) {
+    coord c;
+    const clang::SourceManager &sm = ctx->getSourceManager();
+    clang::SourceLocation loc = d->getLocation();
+    if (loc.isInvalid()) return c;
+    clang::PresumedLoc p = sm.getPresumedLoc(sm.getExpansionLoc(loc));
+    if (p.isInvalid()) return c;
+    c.file = intern(p.getFilename());
+    c.line = (int)p.getLine();
+    c.column = (int)p.getColumn();
+    return c;
+}
+
+void link_begin(file_set_entry *fse) {
+    entry = fse;
+    global_procs.clear();
+    global_vars.clear();
+    linked_vars.clear();
+    read_vars.clear();
+    user_declared_vars.clear();
+    first_place.clear();
+    fundamental_seen.clear();
+}
+
+proc_sym *linked_proc(const clang::FunctionDecl *fd) {
+    const clang::Decl *canon = fd->getCanonicalDecl();
+    auto it = unit_syms.find(canon);
+    if (it != unit_syms.end()) {
+        return static_cast<proc_sym *>(it->second);
+    }
+    std::string name = fd->getName().str();
+    proc_sym *p = nullptr;
+    bool is_new = false;
+    if (fd->getFormalLinkage() == clang::InternalLinkage) {
+        std::string ir_name = static_name(name, fd);
+        p = entry->symtab()->new_proc(function_type_of(fd), src_unknown, ir_name.c_str());
+        p->set_true_name(name.c_str());
+        p->append_annote(k_static_sym);
+        is_new = true;
+    } else {
+        auto g = global_procs.find(name);
+        if (g != global_procs.end()) {
+            p = g->second;
+            merge_proc_type(p, fd);
+        } else {
+            p = global_st->new_proc(function_type_of(fd), src_unknown, name.c_str());
+            global_procs[name] = p;
+            is_new = true;
+        }
+    }
+    if (is_new) {
+        p->set_userdef();
+        set_coordinates(p, fd);
+        first_place[p] = place_text(fd);
+        annotate_orig_types(p, *ctx, fd->getMostRecentDecl());
+    }
+    if (!p->peek_annote(k_inline)) {
+        for (const clang::FunctionDecl *r : fd->redecls())
+            if (r->isInlineSpecified()) {
+                p->append_annote(k_inline);
+                break;
+            }
+    }
+    if (!p->peek_annote(k_builtin) && fd->getBuiltinID() != 0 && name.rfind("__builtin_", 0) == 0)
+        p->append_annote(k_builtin);
+    unit_syms[canon] = p;
+    return p;
+}
+
+var_sym *linked_var(const clang::VarDecl *vd) {
+    const clang::Decl *canon = vd->getCanonicalDecl();
+    auto it = unit_syms.find(canon);
+    if (it != unit_syms.end()) return static_cast<var_sym *>(it->second);
+    bool tentative_array = false;
+    type_node *t = variable_type_of(vd, &tentative_array);
+    std::string name = vd->getName().str();
+    var_sym *v = nullptr;
+    bool is_new = false;
+    if (vd->getFormalLinkage() == clang::InternalLinkage) {
+        std::string ir_name = static_name(name, vd);
+        v = entry->symtab()->new_var(t, ir_name.c_str());
+        v->set_true_name(name.c_str());
+        v->append_annote(k_static_sym);
+        is_new = true;
+    } else {
+        auto g = global_vars.find(name);
+        if (g != global_vars.end()) {
+            v = g->second;
+            merge_var_type(v, t, vd);
+        } else {
+            v = global_st->new_var(t, name.c_str());
+            global_vars[name] = v;
+            is_new = true;
+        }
+    }
+    if (!in_system_header(vd)) user_declared_vars.insert(v);
+    if (is_new) {
+        v->set_userdef();
+        set_coordinates(v, vd);
+        first_place[v] = place_text(vd);
+        linked_vars.push_back(v);
+    }
+    unit_syms[canon] = v;
+    return v;
+}
+
+void note_read(var_sym *v) {
+    read_vars.insert(v);
+}
+
+void link_unit(clang::ASTContext &c, const std::vector<pragma_words> &pragmas) {
+    ctx = &c;
+    unit_syms.clear();
+    types_begin_unit(c);
+    add_decls(c.getTranslationUnitDecl());
+    for (const pragma_words &words : pragmas) {
+        immed_list *l = new immed_list;
+        for (const std::string &w : words) l->append(immed(w.c_str()));
+        entry->append_annote(k_pragma, l);
+    }
+    types_end_unit();
+    unit_syms.clear();
+    ctx = nullptr;
+}
+
+void link_finish(const std::vector<std::string> &tasks, std::vector<std::string> *missing) {
+    for (var_sym *v : linked_vars) {
+        if (!read_vars.count(v)) v->append_annote(k_never_read);
+        if (!v->has_var_def() && !user_declared_vars.count(v) && !v->peek_annote(k_static_sym))
+            v->set_flag(SYMFLAG_STANDARD_STUBBED);
+    }
+    for (const std::string &t : tasks) {
+        proc_sym *p = global_st->lookup_proc(t.c_str(), false);
+        if (!p) p = entry->symtab()->lookup_proc(t.c_str(), false);
+        if (!p) {
+            missing->push_back(t);
+            continue;
+        }
+        if (!p->peek_annote(k_is_a_task)) p->append_annote(k_is_a_task);
+    }
+}
