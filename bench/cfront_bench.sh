@@ -1,0 +1,49 @@
+#!/usr/bin/env bash
+# Front-end benchmark: wall time and peak memory of qvt-cfront beside
+# `clang -fsyntax-only` over the same files, one after the other, as ratios.
+# Inputs: a generated program (bench/gen_c.py, FILES files of FUNCS functions)
+# and the example program.
+# Usage: bench/cfront_bench.sh [BUILD_DIR] (default: build); FILES and FUNCS from the environment.
+set -euo pipefail
+root="$(cd "$(dirname "$0")/.." && pwd)"
+build="${1:-$root/build}"
+cfront="$build/bin/qvt-cfront"
+clang="${CLANG:-clang-14}"
+files="${FILES:-64}"
+funcs="${FUNCS:-50}"
+cores="$(nproc)"
+work="$(mktemp -d)"
+trap 'rm -rf "$work"' EXIT
+
+if [ ! -x "$cfront" ]; then
+  echo "cfront_bench: $cfront not built" >&2
+  exit 1
+fi
+
+# measure LABEL CMD...: prints "LABEL wall_s peak_kb" and sets $wall and $peak.
+measure() {
+  local label=$1; shift
+  /usr/bin/time -f "%e %M" -o "$work/time" "$@" >/dev/null 2>"$work/stderr" || {
+    echo "cfront_bench: '$label' failed:" >&2; cat "$work/stderr" >&2; exit 1; }
+  read -r wall peak <"$work/time"
+  printf '  %-34s %8.2f s %9d KB\n' "$label" "$wall" "$peak"
+}
+
+ratio() { awk -v a="$1" -v b="$2" 'BEGIN { if (b > 0) printf "%.2f", a / b; else print "n/a" }'; }
+
+run_set() {
+  local name=$1; shift
+  echo "$name ($# files, $cores cores)"
+  measure "clang -fsyntax-only" "$clang" -fsyntax-only "$@"
+  local cw=$wall cm=$peak
+  measure "qvt-cfront -j1" "$cfront" -j1 "$@" -o "$work/out1.ir"
+  local w1=$wall m1=$peak
+  measure "qvt-cfront -j$cores" "$cfront" -j"$cores" "$@" -o "$work/outn.ir"
+  local wn=$wall
+  cmp -s "$work/out1.ir" "$work/outn.ir" || { echo "cfront_bench: output differs with the thread count" >&2; exit 1; }
+  echo "  ratio time -j1/clang: $(ratio "$w1" "$cw")   -j$cores/clang: $(ratio "$wn" "$cw")   peak memory -j1/clang: $(ratio "$m1" "$cm")"
+}
+
+python3 "$root/bench/gen_c.py" "$work/gen" "$files" "$funcs"
+run_set "generated: $files files x $funcs functions" "$work"/gen/*.c
+run_set "example" "$root"/examples/main.c "$root"/examples/sensor.c "$root"/examples/bus.c
