@@ -1,0 +1,170 @@
+// The entry point as the tool chain calls it: twice in one process with the
+// resets between runs, the mode chain, and the end on bad arguments.
+#include "driver/global_lists.h"
+#include "driver/options.h"
+#include "driver/stubsuif_main.h"
+#include "ir/builder.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <sys/stat.h>
+#include <unistd.h>
+#include <vector>
+
+namespace {
+
+bool exists(const std::string &path) {
+  struct stat st;
+  return stat(path.c_str(), &st) == 0;
+}
+
+class EntryPoint : public testing::Test {
+protected:
+  void SetUp() override {
+    char templ[] = "/tmp/qvt_entry_XXXXXX";
+    ASSERT_NE(mkdtemp(templ), nullptr);
+    dir = templ;
+    exit_status = 0;
+  }
+  void TearDown() override {
+    exit_status = 0;
+    flag_mgen_pure_stubs = false;
+    std::string cmd = "rm -rf '" + dir + "'";
+    ASSERT_EQ(system(cmd.c_str()), 0);
+  }
+
+  // Writes an IR file: a defined function calling an undefined one, and, if
+  // asked, an undefined function without prototype.
+  std::string make_program(const char *name, bool with_error) {
+    std::string path = dir + "/" + name;
+    int argc = 1;
+    char tool[] = "test";
+    char *argv[] = {tool, nullptr};
+    init_suif(argc, argv);
+    program_builder b(path.c_str());
+    proc_sym *ext = b.extern_proc("ext", b.func(type_signed, {type_signed}));
+    proc_sym *user = b.defined_proc("user", b.func(type_void, {}));
+    b.add_call(user, ext, {operand()});
+    if (with_error)
+      b.extern_proc("old", b.func_noproto(type_signed));
+    exit_suif();
+    return path;
+  }
+
+  std::string make_dir(const char *name) {
+    std::string path = dir + "/" + name;
+    mkdir(path.c_str(), 0755);
+    return path;
+  }
+
+  // Calls the entry point on a fresh copy of the words, as a caller would.
+  int run(std::vector<std::string> words) {
+    words.insert(words.begin(), "qvt-stubber");
+    std::vector<char *> argv;
+    for (std::string &w : words)
+      argv.push_back(w.data());
+    argv.push_back(nullptr);
+    return stubsuif_main(static_cast<int>(words.size()), argv.data());
+  }
+
+  std::string dir;
+};
+
+TEST_F(EntryPoint, CallableTwiceWithResets) {
+  std::string bad = make_program("bad.ir", true);
+  std::string good = make_program("good.ir", false);
+  std::string out1 = make_dir("out1"), out2 = make_dir("out2");
+
+  testing::internal::CaptureStderr();
+  int first = run({"-stubber", "-stubs-dir", out1, "-main-generator", "-mgen_pure_stubs", "-no-stubs",
+                   "-drs-struct-depth-max", "5", bad, dir + "/bad.out.ir"});
+  std::string err1 = testing::internal::GetCapturedStderr();
+  EXPECT_EQ(first, 1);
+  EXPECT_NE(err1.find("function 'old' has unknown prototype"), std::string::npos);
+  EXPECT_NE(err1.find("\n---------------------------\nError message explanation:\n"), std::string::npos);
+  EXPECT_TRUE(flag_main_generator);
+  EXPECT_TRUE(flag_no_stubs);
+  EXPECT_EQ(drs_struct_depth_max, 5);
+  EXPECT_TRUE(exists(out1 + "/qvt_stub_types.h"));
+
+  testing::internal::CaptureStderr();
+  int second = run({"-stubber", "-stubs-dir", out2, good, dir + "/good.out.ir"});
+  std::string err2 = testing::internal::GetCapturedStderr();
+  // The status of a run is never set back, not even by the next run.
+  EXPECT_EQ(second, 1);
+  EXPECT_EQ(err2.find("unknown prototype"), std::string::npos);
+  EXPECT_FALSE(flag_main_generator);
+  EXPECT_FALSE(flag_no_stubs);
+  EXPECT_EQ(drs_struct_depth_max, 2);
+  EXPECT_TRUE(flag_mgen_pure_stubs); // kept from the first run
+  EXPECT_STREQ(stubs_dir, out2.c_str());
+  EXPECT_EQ(vars_before_loop, nullptr);
+  EXPECT_TRUE(exists(out2 + "/qvt_stub_types.h"));
+  EXPECT_TRUE(exists(dir + "/good.out.ir"));
+}
+
+TEST_F(EntryPoint, OutputIrHoldsTheBodies) {
+  std::string in = make_program("p.ir", false);
+  std::string out = make_dir("out");
+  testing::internal::CaptureStderr();
+  EXPECT_EQ(run({"-stubber", "-stubs-dir", out, in, dir + "/p.out.ir"}), 0);
+  testing::internal::GetCapturedStderr();
+  std::string error;
+  EXPECT_TRUE(ir_check_file((dir + "/p.out.ir").c_str(), &error)) << error;
+
+  int argc = 1;
+  char tool[] = "test";
+  char *argv[] = {tool, nullptr};
+  init_suif(argc, argv);
+  file_set_entry *fse = fileset->add_file((dir + "/p.out.ir").c_str(), nullptr);
+  proc_sym *user = global_st->lookup_proc("user");
+  ASSERT_NE(user, nullptr);
+  EXPECT_EQ(user->file(), fse);
+  user->read_proc();
+  EXPECT_NE(user->block(), nullptr);
+  exit_suif();
+}
+
+TEST_F(EntryPoint, NoModeDoesNothing) {
+  std::string in = make_program("p.ir", true);
+  std::string out = make_dir("out");
+  EXPECT_EQ(run({"-stubs-dir", out, in, dir + "/p.out.ir"}), 0);
+  EXPECT_FALSE(exists(out + "/qvt_stub_types.h"));
+}
+
+TEST_F(EntryPoint, SymbolHeaderModeComesFirst) {
+  std::string in = make_program("p.ir", true);
+  std::string out = make_dir("out");
+  EXPECT_EQ(run({"-stubber", "-unknown-symbols", "-stubs-dir", out, in, dir + "/h.h"}), 0);
+  EXPECT_TRUE(exists(dir + "/h.h"));
+  EXPECT_FALSE(exists(out + "/qvt_stub_types.h"));
+}
+
+TEST_F(EntryPoint, DrsModesRunOverEmptyTables) {
+  std::string in = make_program("p.ir", false);
+  EXPECT_EQ(run({"-cpp-drs-gen", in, dir + "/cpp.out.ir"}), 0);
+  EXPECT_TRUE(flag_no_warnings_for_drs); // the C++ pass is silent
+  EXPECT_EQ(run({"-drs-gen", in, dir + "/drs.out.ir"}), 0);
+  EXPECT_FALSE(flag_no_warnings_for_drs);
+}
+
+TEST_F(EntryPoint, WrongArgumentCountEndsTheProcess) {
+  std::string in = make_program("p.ir", false);
+  EXPECT_EXIT(run({"-stubber", in}), testing::ExitedWithCode(1), "qvt-stubber: bad arguments");
+  EXPECT_EXIT(run({"-stubber", in, "a", "b"}), testing::ExitedWithCode(1), "qvt-stubber: bad arguments");
+}
+
+TEST_F(EntryPoint, MissingStubsDirectoryEndsTheProcess) {
+  std::string in = make_program("p.ir", false);
+  std::string missing = dir + "/no/such/dir";
+  EXPECT_EXIT(run({"-stubber", "-stubs-dir", missing, in, dir + "/p.out.ir"}), testing::ExitedWithCode(1),
+              "qvt-stubber: file '" + missing + "/qvt_stub_types.h' access fails");
+}
+
+TEST(ExportedTexts, CarryTheVersion) {
+  EXPECT_NE(std::string(libc_stubber_ver_string).find(qv_c_stubber_so_version), std::string::npos);
+  EXPECT_GT(strlen(qv_c_stubber_so_build_date), 0u);
+}
+
+} // namespace

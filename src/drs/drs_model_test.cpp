@@ -1,0 +1,118 @@
+// The range state across a run: the reporting rule, the pragma entries and
+// the two passes over empty tables.
+#include "drs/drs_model.h"
+#include "driver/options.h"
+#include "ir/builder.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+namespace {
+
+class DrsState : public testing::Test {
+protected:
+  void SetUp() override {
+    int argc = 1;
+    char name[] = "drs_model_test";
+    char *argv[] = {name, nullptr};
+    init_suif(argc, argv);
+    drs_init_state();
+    flag_unit_by_unit = false;
+  }
+  void TearDown() override {
+    drs_free_state();
+    exit_suif();
+  }
+};
+
+TEST_F(DrsState, WarnCarriesTheFileLocation) {
+  drs_file_path = "ranges.txt";
+  testing::internal::CaptureStderr();
+  drs_warn(7, "data-range-specifications: unknown mode '%s'", "Init");
+  EXPECT_EQ(testing::internal::GetCapturedStderr(),
+            "ranges.txt:7: warning: data-range-specifications: unknown mode 'Init'\n");
+}
+
+TEST_F(DrsState, WarnWithoutFileHasNoLocation) {
+  testing::internal::CaptureStderr();
+  drs_warn(3, "data-range-specifications: %d", 5);
+  EXPECT_EQ(testing::internal::GetCapturedStderr(), "warning: data-range-specifications: 5\n");
+}
+
+TEST_F(DrsState, WarningsCanBeSilenced) {
+  flag_no_warnings_for_drs = true;
+  testing::internal::CaptureStderr();
+  drs_warn(3, "data-range-specifications: anything");
+  EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
+}
+
+TEST_F(DrsState, InitClearsTheRunState) {
+  drs_file_path = "x";
+  drs_file_version = -1;
+  flag_no_warnings_for_drs = true;
+  drs_free_state();
+  drs_init_state();
+  EXPECT_EQ(drs_file_path, nullptr);
+  EXPECT_EQ(drs_file_version, 0);
+  EXPECT_FALSE(flag_no_warnings_for_drs);
+  EXPECT_TRUE(drs_read_entries->empty());
+  EXPECT_TRUE(drs_entry_map->empty());
+}
+
+TEST_F(DrsState, PragmaEntries) {
+  drs_add_pragma("init", "v.x", "0", "10", nullptr);
+  drs_add_pragma("Init", "w", "0", "1", nullptr); // case counts: dropped
+  drs_add_pragma("globalassert", "p", "1", "2", "single");
+  drs_add_pragma("permanent", "q", "1", "2", "5");
+  ASSERT_EQ(drs_pragma_entries->size(), 3u);
+  drs_entry *first = drs_pragma_entries->front();
+  EXPECT_EQ(first->mode, DRS_MODE_INIT);
+  EXPECT_STREQ(first->name, "v.x");
+  EXPECT_STREQ(first->min, "0");
+  EXPECT_STREQ(first->max, "10");
+  EXPECT_EQ(first->line, 0);
+  EXPECT_EQ(first->pointer_kind, DRS_PTR_MULTI);
+  EXPECT_EQ(first->symbol, nullptr);
+  EXPECT_FALSE(first->fully_handled);
+  EXPECT_EQ((*std::next(drs_pragma_entries->begin()))->pointer_kind, DRS_PTR_SINGLE);
+  EXPECT_EQ(drs_pragma_entries->back()->pointer_kind, DRS_PTR_MULTI);
+}
+
+TEST_F(DrsState, PointerAttributes) {
+  EXPECT_EQ(drs_pointer_kind_of("1"), DRS_PTR_SINGLE);
+  EXPECT_EQ(drs_pointer_kind_of("none"), DRS_PTR_NONE);
+  EXPECT_EQ(drs_pointer_kind_of("2"), DRS_PTR_NONE);
+  EXPECT_EQ(drs_pointer_kind_of("3"), DRS_PTR_MULTI_CERTAIN_WRITE);
+  EXPECT_EQ(drs_pointer_kind_of("single_certain_write"), DRS_PTR_SINGLE_CERTAIN_WRITE);
+  EXPECT_EQ(drs_pointer_kind_of("multi"), DRS_PTR_MULTI);
+  EXPECT_EQ(drs_pointer_kind_of("11"), DRS_PTR_MULTI);
+  EXPECT_EQ(drs_pointer_kind_of(nullptr), DRS_PTR_MULTI);
+  EXPECT_STREQ(drs_mode_names[DRS_MODE_GLOBALASSERT], "globalassert");
+}
+
+TEST_F(DrsState, PassMovesPragmaEntriesAfterTheFile) {
+  program_builder b(nullptr);
+  drs_add_pragma("init", "v", "0", "10", nullptr);
+  flag_unit_by_unit = true;
+  run_drs_pass(nullptr, b.fse(), nullptr, nullptr);
+  EXPECT_TRUE(drs_pragma_entries->empty());
+  ASSERT_EQ(drs_read_entries->size(), 1u);
+  EXPECT_STREQ(drs_read_entries->front()->name, "v");
+  EXPECT_EQ(drs_file_version, 0);
+  EXPECT_TRUE(drs_unit_by_unit);
+  EXPECT_EQ(drs_fse, b.fse());
+  flag_unit_by_unit = false;
+}
+
+TEST_F(DrsState, CppPassIsSilentAndLeavesPragmasAlone) {
+  program_builder b(nullptr);
+  drs_add_pragma("init", "v", "0", "10", nullptr);
+  run_cpp_drs_pass(nullptr, b.fse());
+  EXPECT_TRUE(flag_no_warnings_for_drs);
+  EXPECT_TRUE(drs_no_log);
+  EXPECT_EQ(drs_pragma_entries->size(), 1u);
+  EXPECT_TRUE(drs_read_entries->empty());
+}
+
+} // namespace
