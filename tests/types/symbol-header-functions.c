@@ -1,0 +1,122 @@
+// The symbol header: each used function without a body gets its name macro and the typedefs
+// of its return and parameter types in the source's own spelling; a void function returns
+// through the do-while form; without a prototype no parameter is annotated; unused and
+// defined functions get nothing. The fundamental types come from the target.
+// RUN: rm -rf %t && mkdir -p %t
+// RUN: qvt-cfront %s -o %t/p.ir
+// RUN: qvt-stubber -unknown-symbols %t/p.ir %t/h.h
+// RUN: %FileCheck-exact %s < %t/h.h
+// RUN: %gcc -fsyntax-only -std=gnu11 -I %t %S/Inputs/use-symbol-header.c
+// RUN: %clang -fsyntax-only -std=gnu11 -I %t %S/Inputs/use-symbol-header.c
+
+char *copy(char *dst, const char *src);
+void log_line(const char *text);
+int count();
+int (*pick(int which))(int);
+int unused(int);
+
+int main(void) {
+  char buf[8];
+  copy(buf, "x");
+  log_line(buf);
+  return count() + pick(1)(2);
+}
+
+// CHECK:#define __quorvanta_static_types_for_stubs
+// CHECK-NEXT:#define __quorvanta_copy
+// CHECK-NEXT:#ifndef __quorvanta_copy_ret_t_typedef
+// CHECK-NEXT:#define __quorvanta_copy_ret_t_typedef typedef char *__quorvanta_copy_ret_t;
+// CHECK-NEXT:#endif /* __quorvanta_copy_ret_t_typedef */
+// CHECK-NEXT:#ifndef __quorvanta_copy_return
+// CHECK-NEXT:#define __quorvanta_copy_return(__x) return (__quorvanta_copy_ret_t)(__x)
+// CHECK-NEXT:#endif /* __quorvanta_copy_return */
+// CHECK-NEXT:#define __quorvanta_copy_nb_args 2
+// CHECK-NEXT:#ifndef __quorvanta_copy_arg0_t_typedef
+// CHECK-NEXT:#define __quorvanta_copy_arg0_t_typedef typedef char *__quorvanta_copy_arg0_t;
+// CHECK-NEXT:#endif /* __quorvanta_copy_arg0_t_typedef */
+// CHECK-NEXT:#ifndef __quorvanta_copy_arg1_t_typedef
+// CHECK-NEXT:#define __quorvanta_copy_arg1_t_typedef typedef const char *__quorvanta_copy_arg1_t;
+// CHECK-NEXT:#endif /* __quorvanta_copy_arg1_t_typedef */
+// CHECK-NEXT:#define __quorvanta_copy_known_type
+// CHECK-EMPTY:
+// CHECK-NEXT:#define __quorvanta_log_line
+// CHECK-NEXT:#ifndef __quorvanta_log_line_ret_t_typedef
+// CHECK-NEXT:#define __quorvanta_log_line_ret_t_typedef typedef void __quorvanta_log_line_ret_t;
+// CHECK-NEXT:#endif /* __quorvanta_log_line_ret_t_typedef */
+// CHECK-NEXT:#ifndef __quorvanta_log_line_return
+// CHECK-NEXT:#define __quorvanta_log_line_return(__x) do { (void)(__x); return; } while(0){{[ ]}}
+// CHECK-NEXT:#endif /* __quorvanta_log_line_return */
+// CHECK-NEXT:#define __quorvanta_log_line_nb_args 1
+// CHECK-NEXT:#ifndef __quorvanta_log_line_arg0_t_typedef
+// CHECK-NEXT:#define __quorvanta_log_line_arg0_t_typedef typedef const char *__quorvanta_log_line_arg0_t;
+// CHECK-NEXT:#endif /* __quorvanta_log_line_arg0_t_typedef */
+// CHECK-NEXT:#define __quorvanta_log_line_known_type
+// CHECK-EMPTY:
+// CHECK-NEXT:#define __quorvanta_count
+// CHECK-NEXT:#ifndef __quorvanta_count_ret_t_typedef
+// CHECK-NEXT:#define __quorvanta_count_ret_t_typedef typedef int __quorvanta_count_ret_t;
+// CHECK-NEXT:#endif /* __quorvanta_count_ret_t_typedef */
+// CHECK-NEXT:#ifndef __quorvanta_count_return
+// CHECK-NEXT:#define __quorvanta_count_return(__x) return (__quorvanta_count_ret_t)(__x)
+// CHECK-NEXT:#endif /* __quorvanta_count_return */
+// CHECK-NEXT:/* no arguments types annotated */
+// CHECK-EMPTY:
+// CHECK-NEXT:#define __quorvanta_pick
+// CHECK-NEXT:#ifndef __quorvanta_pick_ret_t_typedef
+// CHECK-NEXT:#define __quorvanta_pick_ret_t_typedef typedef int (*__quorvanta_pick_ret_t)(int);
+// CHECK-NEXT:#endif /* __quorvanta_pick_ret_t_typedef */
+// CHECK-NEXT:#ifndef __quorvanta_pick_return
+// CHECK-NEXT:#define __quorvanta_pick_return(__x) return (__quorvanta_pick_ret_t)(__x)
+// CHECK-NEXT:#endif /* __quorvanta_pick_return */
+// CHECK-NEXT:#define __quorvanta_pick_nb_args 1
+// CHECK-NEXT:#ifndef __quorvanta_pick_arg0_t_typedef
+// CHECK-NEXT:#define __quorvanta_pick_arg0_t_typedef typedef int __quorvanta_pick_arg0_t;
+// CHECK-NEXT:#endif /* __quorvanta_pick_arg0_t_typedef */
+// CHECK-NEXT:#define __quorvanta_pick_known_type
+// CHECK-EMPTY:
+// CHECK-NEXT:#undef QVT_BUILTIN_TARGET_UCHAR_MAX
+// CHECK-NEXT:#define QVT_BUILTIN_TARGET_UCHAR_MAX 255
+// CHECK-NEXT:#define NO_NEED_FUNDAMENTAL_TYPES /* To avoid including fundamental types in stddef.h */
+// CHECK-NEXT:#define __SIZE_TYPE__ unsigned long
+// CHECK-NEXT:#if defined(__QUORVANTA_NEED_SIZE_T_) && !defined(__QUORVANTA_NEED_SIZE_T_DONE_) && !defined(_SIZE_T_DEFINED) && !defined(__size_t_defined) && !defined(_SIZE_T) && !defined(__SIZE_T)
+// CHECK-NEXT:#define __QUORVANTA_NEED_SIZE_T_DONE_
+// CHECK-NEXT:typedef unsigned long size_t; /*Target defined*/{{[ ]}}
+// CHECK-NEXT:#define _SIZE_T_DEFINED
+// CHECK-NEXT:#define __size_t_defined
+// CHECK-NEXT:#define _SIZE_T
+// CHECK-NEXT:#define __SIZE_T
+// CHECK-NEXT:#define __SIZE_TYPE__ unsigned long
+// CHECK-NEXT:#endif /*__QUORVANTA_NEED_SIZE_T_*/
+// CHECK-NEXT:#define __PTRDIFF_TYPE__ long
+// CHECK-NEXT:#if defined(__QUORVANTA_NEED_PTRDIFF_T_) && !defined(__QUORVANTA_NEED_PTRDIFF_T_DONE_) && !defined(_PTRDIFF_T_DEFINED) && !defined(__ptrdiff_t_defined) && !defined(_PTRDIFF_T) && !defined(__PTRDIFF_T)
+// CHECK-NEXT:#define __QUORVANTA_NEED_PTRDIFF_T_DONE_
+// CHECK-NEXT:typedef long ptrdiff_t; /*Target defined*/{{[ ]}}
+// CHECK-NEXT:#define _PTRDIFF_T_DEFINED
+// CHECK-NEXT:#define __ptrdiff_t_defined
+// CHECK-NEXT:#define _PTRDIFF_T
+// CHECK-NEXT:#define __PTRDIFF_T
+// CHECK-NEXT:#define __PTRDIFF_TYPE__ long
+// CHECK-NEXT:#endif /*__QUORVANTA_NEED_PTRDIFF_T_*/
+// CHECK-NEXT:#ifndef __cplusplus
+// CHECK-NEXT:#define __WCHAR_TYPE__ int
+// CHECK-NEXT:#if defined(__QUORVANTA_NEED_WCHAR_T_) && !defined(__QUORVANTA_NEED_WCHAR_T_DONE_) && !defined(_WCHAR_T_DEFINED) && !defined(__wchar_t_defined) && !defined(_WCHAR_T) && !defined(__WCHAR_T)
+// CHECK-NEXT:#define __QUORVANTA_NEED_WCHAR_T_DONE_
+// CHECK-NEXT:typedef int wchar_t; /*Target defined*/{{[ ]}}
+// CHECK-NEXT:#define _WCHAR_T_DEFINED
+// CHECK-NEXT:#define __wchar_t_defined
+// CHECK-NEXT:#define _WCHAR_T
+// CHECK-NEXT:#define __WCHAR_T
+// CHECK-NEXT:#define __WCHAR_TYPE__ int
+// CHECK-NEXT:#endif /*__QUORVANTA_NEED_WCHAR_T_*/
+// CHECK-NEXT:#endif /*__cplusplus*/
+// CHECK-NEXT:#define __WINT_TYPE__ unsigned int
+// CHECK-NEXT:#if defined(__QUORVANTA_NEED_WINT_T_) && !defined(__QUORVANTA_NEED_WINT_T_DONE_) && !defined(_WINT_T_DEFINED) && !defined(__wint_t_defined) && !defined(_WINT_T) && !defined(__WINT_T)
+// CHECK-NEXT:#define __QUORVANTA_NEED_WINT_T_DONE_
+// CHECK-NEXT:typedef unsigned int wint_t; /*Target defined*/{{[ ]}}
+// CHECK-NEXT:#define _WINT_T_DEFINED
+// CHECK-NEXT:#define __wint_t_defined
+// CHECK-NEXT:#define _WINT_T
+// CHECK-NEXT:#define __WINT_T
+// CHECK-NEXT:#define __WINT_TYPE__ unsigned int
+// CHECK-NEXT:#endif /*__QUORVANTA_NEED_WINT_T_*/
+// CHECK-NOT:{{.}}
