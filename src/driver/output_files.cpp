@@ -108,9 +108,20 @@ static const char *register_mark(const char *name) {
   return register_annote(new annote_def(name, false));
 }
 
-// Deletes every annotation called name on t.
-static void strip_marks(type_node *t, const char *name) {
-  while (annote *a = t->get_annote(name)) delete a;
+// Deletes the per-file marks of t in one walk of its annotations: this runs over every global
+// type after each generated file, so it must not scan the list once per mark.
+static void strip_per_file_marks(type_node *t) {
+  annote_list *al = t->annotes_if_any();
+  if (!al) return;
+  for (annote_list_e *e = al->head(); e;) {
+    annote_list_e *next = e->next();
+    const char *n = e->contents->name();
+    if (n == k_init_proc_decl || n == k_fct_stub || n == k_fct_stub_pure || n == k_fct_stub_worst) {
+      delete al->remove(e)->contents;
+      delete e;
+    }
+    e = next;
+  }
 }
 
 void reset_generation_state() {
@@ -126,13 +137,7 @@ void reset_generation_state() {
     k_fct_stub_worst = register_mark("fct_stub_worst");
     target_long_is_24_bits = type_signed_long->size() == 24;
   } else if (fileset && fileset->globals) {
-    for (type_node_list_e *e = fileset->globals->types()->head(); e; e = e->next()) {
-      if (!e->contents->are_annotations()) continue;
-      strip_marks(e->contents, k_init_proc_decl);
-      strip_marks(e->contents, k_fct_stub);
-      strip_marks(e->contents, k_fct_stub_pure);
-      strip_marks(e->contents, k_fct_stub_worst);
-    }
+    for (type_node_list_e *e = fileset->globals->types()->head(); e; e = e->next()) strip_per_file_marks(e->contents);
   }
   // The old lists are abandoned, not deleted: a caller may still hold one.
   init_proc_texts = new string_list;
