@@ -6,7 +6,7 @@
 # Usage: bench/cfront_bench.sh [BUILD_DIR] (default: build); FILES and FUNCS from the environment.
 set -euo pipefail
 root="$(cd "$(dirname "$0")/.." && pwd)"
-build="${1:-$root/build}"
+build="$(cd "${1:-$root/build}" && pwd)"
 cfront="$build/bin/qvt-cfront"
 clang="${CLANG:-clang-14}"
 files="${FILES:-64}"
@@ -35,12 +35,15 @@ run_set() {
   local name=$1; shift
   echo "$name ($# files, $cores cores)"
   measure "clang -fsyntax-only" "$clang" -fsyntax-only "$@"
-  local cw=$wall cm=$peak
-  measure "qvt-cfront -j1" "$cfront" -j1 "$@" -o "$work/out1.ir"
-  local w1=$wall m1=$peak
-  measure "qvt-cfront -j$cores" "$cfront" -j"$cores" "$@" -o "$work/outn.ir"
-  local wn=$wall
-  cmp -s "$work/out1.ir" "$work/outn.ir" || { echo "cfront_bench: output differs with the thread count" >&2; exit 1; }
+  local cw=$wall cm=$peak w1 m1 wn
+  # Both runs write a file of the same name, so that the outputs compare equal.
+  mkdir -p "$work/j1" "$work/jn"
+  (cd "$work/j1" && measure "qvt-cfront -j1" "$cfront" -j1 "$@" -o program.ir && echo "$wall $peak" >"$work/m1")
+  read -r w1 m1 <"$work/m1"
+  (cd "$work/jn" && measure "qvt-cfront -j$cores" "$cfront" -j"$cores" "$@" -o program.ir && echo "$wall" >"$work/mn")
+  read -r wn <"$work/mn"
+  cmp -s "$work/j1/program.ir" "$work/jn/program.ir" || {
+    echo "cfront_bench: output differs with the thread count" >&2; exit 1; }
   echo "  ratio time -j1/clang: $(ratio "$w1" "$cw")   -j$cores/clang: $(ratio "$wn" "$cw")   peak memory -j1/clang: $(ratio "$m1" "$cm")"
 }
 

@@ -172,7 +172,13 @@ operand lower_addr(const clang::Expr *e) {
     }
     if (const auto *m = llvm::dyn_cast<clang::MemberExpr>(e)) {
         operand base = m->isArrow() ? lower_expr(m->getBase()) : lower_addr(m->getBase());
-        return operand(generic(bufprintf("&.%s", m->getMemberDecl()->getName().str().c_str()), t, {base}));
+        return operand(generic(bufprintf("&%s%s", m->isArrow() ? "->" : ".", m->getMemberDecl()->getName().str().c_str()),
+                               t, {base}));
+    }
+    // A string literal is its own address.
+    if (const auto *sl = llvm::dyn_cast<clang::StringLiteral>(e)) {
+        std::string text = sl->getCharByteWidth() == 1 ? sl->getString().str() : std::string();
+        return operand(new in_ldc(t, operand(), immed(text.c_str())));
     }
     if (const auto *a = llvm::dyn_cast<clang::ArraySubscriptExpr>(e))
         return operand(generic("&[]", t, {lower_expr(a->getBase()), lower_expr(a->getIdx())}));

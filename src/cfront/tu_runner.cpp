@@ -91,6 +91,11 @@ void run_one(size_t index, const tu_job &job, const unit_consumer &consume) {
     llvm::IntrusiveRefCntPtr<llvm::vfs::FileSystem> fs = llvm::vfs::createPhysicalFileSystem();
     if (!job.directory.empty()) fs->setCurrentWorkingDirectory(job.directory);
 
+    if (!fs->exists(job.file)) {
+        diag_text = "qvt-cfront: error: no such file or directory: '" + job.file + "'\n";
+        take_turn(index, diag_text, false, nullptr, {}, consume);
+        return;
+    }
     std::shared_ptr<clang::CompilerInvocation> inv =
         clang::createInvocationFromCommandLine(argv, driver_diags, fs);
     if (!inv || driver_diags->hasErrorOccurred()) {
