@@ -21,6 +21,7 @@ public:
     object_kinds object_kind() const override { return FILE_OBJ; }
 
     const char *name() const { return nm; }
+    void set_name(const char *name);  // interns
     const char *in_name() const { return in_nm; }    // null for an entry made in memory
     const char *out_name() const { return out_nm; }  // null when nothing is written
     file_set *parent() const { return fs; }

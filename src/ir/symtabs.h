@@ -56,14 +56,20 @@ public:
     // a parent, or t itself, which is then added to this table with a new
     // type_id. A t that loses to an existing type is left to the caller.
     type_node *install_type(type_node *t);
-    // Adds t with its type_id as it stands (used by the reader).
+    // Adds t with its type_id as it stands (used by the reader); removes
+    // t (given back to the caller).
     void add_type(type_node *t);
+    void remove_type(type_node *t);
     type_node *lookup_type_id(unsigned id) const;
 
     // Used by add_child.
     void set_parent(base_symtab *s) { up = s; }
 
+    struct lookup_index;
+
 private:
+    lookup_index *idx;
+    unsigned unique_counter = 0;
     const char *nm;
     base_symtab *up = nullptr;
     base_symtab_list kids;
@@ -84,6 +90,7 @@ public:
 
 private:
     tree_block *blk = nullptr;
+    unsigned label_counter = 0;
 };
 
 // The outermost table of a procedure body; keeps the parameter order.

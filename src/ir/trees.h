@@ -319,6 +319,8 @@ public:
     tree_node_list *body() const { return bdy; }
     void set_body(tree_node_list *l);
     block_symtab *symtab() const { return st; }
+    // Gives the block its table (owned from then on).
+    void set_symtab(block_symtab *s);
     unsigned num_child_lists() const override { return 1; }
     tree_node_list *child_list_num(unsigned n) const override;
     tree_node *clone() const override;

@@ -1,0 +1,295 @@
+// qvt-irdump FILE: prints an IR file for people: the target, the tables
+// with types by their C-like names, symbols with flags and annotations,
+// and every body as indented pseudo-C.
+#include <cstdio>
+#include <cstring>
+#include <string>
+
+#include "ir/ir.h"
+
+static std::string type_text(type_node *t) {
+    if (!t) return "?";
+    return std::string(suif_c_type_string(t));
+}
+
+static std::string immed_text(const immed &im) {
+    char buf[64];
+    switch (im.kind()) {
+    case im_int: return std::to_string(im.integer());
+    case im_float: snprintf(buf, sizeof buf, "%.17g", im.flt()); return buf;
+    case im_ext_int: return std::string(im.ext_integer()) + " (ext int)";
+    case im_ext_float: return std::string(im.ext_flt()) + " (ext float)";
+    case im_string: {
+        std::string s = "\"";
+        for (const char *p = im.string(); *p; ++p) {
+            if (*p == '"' || *p == '\\') s.push_back('\\');
+            if (*p == '\n') s += "\\n";
+            else s.push_back(*p);
+        }
+        return s + "\"";
+    }
+    case im_symbol:
+        return std::string("&") + (im.symbol() ? im.symbol()->name() : "?") +
+               (im.offset() ? "+" + std::to_string(im.offset()) : "");
+    case im_type: return "type " + type_text(im.type());
+    default: return "?";
+    }
+}
+
+static void print_annotes(const suif_object *o, int indent) {
+    annote_list *al = o->annotes_if_any();
+    if (!al) return;
+    for (annote_list_e *e = al->head(); e; e = e->next()) {
+        printf("%*s@%s", indent, "", e->contents->name());
+        if (immed_list *l = e->contents->immeds())
+            for (immed_list_e *i = l->head(); i; i = i->next()) printf(" %s", immed_text(i->contents).c_str());
+        printf("\n");
+    }
+}
+
+static void print_type(type_node *t) {
+    printf("  T%u: %s", t->type_id(), type_text(t).c_str());
+    if (t->is_struct()) {
+        auto s = static_cast<struct_type *>(t);
+        printf(" {  /* %d bits */\n", s->size());
+        print_annotes(t, 6);
+        for (unsigned i = 0; i < s->num_fields(); ++i) {
+            printf("      %s %s", type_text(s->field_type(i)).c_str(), s->field_name(i));
+            if (s->field_storage_width(i)) printf(" : %d in %d", s->field_type(i) ? s->field_type(i)->size() : 0,
+                                                  s->field_storage_width(i));
+            printf(";  /* at bit %d */\n", s->field_offset(i));
+        }
+        printf("  }\n");
+        return;
+    }
+    if (t->is_enum()) {
+        auto e = static_cast<enum_type *>(t);
+        printf(" {  /* %d bits, %s */\n", e->size(), e->is_signed() ? "signed" : "unsigned");
+        print_annotes(t, 6);
+        for (unsigned i = 0; i < e->num_values(); ++i)
+            printf("      %s = %s,\n", e->member(i), e->value(i).to_string(10).c_str());
+        printf("  }\n");
+        return;
+    }
+    if (t->size()) printf("  /* %d bits */", t->size());
+    printf("\n");
+    print_annotes(t, 6);
+}
+
+static void print_sym(sym_node *s, int indent) {
+    printf("%*s", indent, "");
+    switch (s->kind()) {
+    case SYM_VAR: {
+        auto v = static_cast<var_sym *>(s);
+        printf("var %s %s", type_text(v->type()).c_str(), s->name());
+        if (v->is_param()) printf(" [param]");
+        if (v->is_addr_taken()) printf(" [addr taken]");
+        if (v->has_var_def()) printf(" [defined, align %d]", v->definition()->alignment());
+        else if (v->is_extern()) printf(" [extern]");
+        break;
+    }
+    case SYM_PROC: {
+        auto p = static_cast<proc_sym *>(s);
+        printf("proc %s %s", type_text(p->type()).c_str(), s->name());
+        printf(p->src_lang() ? " [body]" : " [no body]");
+        break;
+    }
+    case SYM_LABEL: printf("label %s", s->name()); break;
+    }
+    if (s->is_userdef()) printf(" [userdef]");
+    if (s->true_name() != s->name()) printf(" [source name %s]", s->true_name());
+    printf("  /* #%u */\n", s->sym_id());
+    print_annotes(s, indent + 4);
+    if (s->is_var())
+        if (var_def *d = static_cast<var_sym *>(s)->definition()) print_annotes(d, indent + 4);
+}
+
+static void print_table(base_symtab *st, int indent) {
+    print_annotes(st, indent);
+    for (type_node_list_e *e = st->types()->head(); e; e = e->next()) {
+        printf("%*s", indent - 2, "");
+        print_type(e->contents);
+    }
+    for (sym_node_list_e *e = st->symbols()->head(); e; e = e->next()) print_sym(e->contents, indent);
+}
+
+static std::string expr(const operand &r);
+
+static const char *binary_sign(if_ops op) {
+    switch (op) {
+    case io_add: return "+";
+    case io_sub: return "-";
+    case io_mul: return "*";
+    case io_div: return "/";
+    case io_rem: return "%";
+    case io_mod: return "mod";
+    case io_and: return "&";
+    case io_ior: return "|";
+    case io_xor: return "^";
+    case io_asr: return ">>";
+    case io_lsl: return "<<";
+    case io_lsr: return ">>>";
+    case io_seq: return "==";
+    case io_sne: return "!=";
+    case io_sl: return "<";
+    case io_sle: return "<=";
+    default: return nullptr;
+    }
+}
+
+static std::string value_text(instruction *i) {
+    switch (i->opcode()) {
+    case io_ldc: return immed_text(static_cast<in_ldc *>(i)->value());
+    case io_cvt: return "(" + type_text(i->result_type()) + ") " + expr(i->src_op(0));
+    case io_lod: return "*" + expr(i->src_op(0));
+    case io_neg: return "-" + expr(i->src_op(0));
+    case io_not: return "~" + expr(i->src_op(0));
+    case io_cpy: return expr(i->src_op(0));
+    case io_cal: {
+        auto c = static_cast<in_cal *>(i);
+        std::string s;
+        operand a = c->addr_op();
+        if (a.is_instr() && a.instr()->opcode() == io_ldc && static_cast<in_ldc *>(a.instr())->value().is_symbol())
+            s = static_cast<in_ldc *>(a.instr())->value().symbol()->name();
+        else s = "(*" + expr(a) + ")";
+        s += "(";
+        for (unsigned k = 0; k < c->num_args(); ++k) s += (k ? ", " : "") + expr(c->argument(k));
+        return s + ")";
+    }
+    case io_gen: {
+        std::string s = std::string(static_cast<in_gen *>(i)->name()) + "(";
+        for (unsigned k = 0; k < i->num_srcs(); ++k) s += (k ? ", " : "") + expr(i->src_op(k));
+        return s + ")";
+    }
+    default:
+        if (const char *sign = binary_sign(i->opcode()))
+            return "(" + expr(i->src_op(0)) + " " + sign + " " + expr(i->src_op(1)) + ")";
+        std::string s = std::string(if_ops_name(i->opcode())) + "(";
+        for (unsigned k = 0; k < i->num_srcs(); ++k) s += (k ? ", " : "") + expr(i->src_op(k));
+        return s + ")";
+    }
+}
+
+static std::string expr(const operand &r) {
+    if (r.is_symbol()) return r.symbol()->name();
+    if (r.is_instr()) return value_text(r.instr());
+    return "<null>";
+}
+
+static void print_instr_annotes(instruction *i, int indent) {
+    if (i->annotes_if_any()) print_annotes(i, indent + 4);
+    for (unsigned k = 0; k < i->num_srcs(); ++k)
+        if (instruction *s = i->src_op(k).instr()) print_instr_annotes(s, indent);
+}
+
+static void print_list(tree_node_list *l, int indent);
+
+static void print_statement(instruction *i, int indent) {
+    printf("%*s", indent, "");
+    std::string dst = i->dst_op().is_symbol() ? std::string(i->dst_op().symbol()->name()) + " = " : "";
+    switch (i->opcode()) {
+    case io_mrk: printf("mark;\n"); break;
+    case io_nop: printf("nop;\n"); break;
+    case io_ret: printf(i->num_srcs() && !i->src_op(0).is_null() ? "return %s;\n" : "return;\n",
+                        i->num_srcs() ? expr(i->src_op(0)).c_str() : ""); break;
+    case io_str: printf("*%s = %s;\n", expr(i->src_op(0)).c_str(), expr(i->src_op(1)).c_str()); break;
+    case io_memcpy: printf("*%s = *%s;\n", expr(i->src_op(0)).c_str(), expr(i->src_op(1)).c_str()); break;
+    case io_btrue:
+    case io_bfalse: {
+        auto b = static_cast<in_bj *>(i);
+        printf("if (%s%s) goto %s;\n", i->opcode() == io_bfalse ? "!" : "", expr(b->src_op()).c_str(),
+               b->target() ? b->target()->name() : "?");
+        break;
+    }
+    case io_jmp: printf("goto %s;\n", static_cast<in_bj *>(i)->target() ? static_cast<in_bj *>(i)->target()->name() : "?"); break;
+    case io_lab: printf("%s:\n", static_cast<in_lab *>(i)->label() ? static_cast<in_lab *>(i)->label()->name() : "?"); break;
+    default: printf("%s%s;\n", dst.c_str(), value_text(i).c_str()); break;
+    }
+    print_instr_annotes(i, indent);
+}
+
+static void print_node(tree_node *t, int indent) {
+    switch (t->kind()) {
+    case TREE_INSTR:
+        if (instruction *i = static_cast<tree_instr *>(t)->instr()) print_statement(i, indent);
+        print_annotes(t, indent + 4);
+        break;
+    case TREE_BLOCK: {
+        auto b = static_cast<tree_block *>(t);
+        printf("%*s{\n", indent, "");
+        print_annotes(t, indent + 4);
+        if (b->symtab()) print_table(b->symtab(), indent + 4);
+        print_list(b->body(), indent + 4);
+        printf("%*s}\n", indent, "");
+        break;
+    }
+    case TREE_IF: {
+        auto f = static_cast<tree_if *>(t);
+        printf("%*sif-header (else at %s) {\n", indent, "", f->jumpto() ? f->jumpto()->name() : "?");
+        print_annotes(t, indent + 4);
+        print_list(f->header(), indent + 4);
+        printf("%*s} then {\n", indent, "");
+        print_list(f->then_part(), indent + 4);
+        printf("%*s} else {\n", indent, "");
+        print_list(f->else_part(), indent + 4);
+        printf("%*s}\n", indent, "");
+        break;
+    }
+    case TREE_LOOP: {
+        auto l = static_cast<tree_loop *>(t);
+        printf("%*sdo {\n", indent, "");
+        print_annotes(t, indent + 4);
+        print_list(l->body(), indent + 4);
+        printf("%*s} test {\n", indent, "");
+        print_list(l->test(), indent + 4);
+        printf("%*s}\n", indent, "");
+        break;
+    }
+    default: break;
+    }
+}
+
+static void print_list(tree_node_list *l, int indent) {
+    for (tree_node_list_e *e = l->head(); e; e = e->next()) print_node(e->contents, indent);
+}
+
+int main(int argc, char **argv) {
+    if (argc != 2 || argv[1][0] == '-') {
+        fprintf(stderr, "usage: qvt-irdump FILE\n");
+        return 1;
+    }
+    init_suif(argc, argv);
+    file_set_entry *fse = fileset->add_file(argv[1], nullptr);
+    printf("IR file %s, entry \"%s\"\n", argv[1], fse->name());
+    printf("target: addressable unit %d bits, %s, char %s; sizes char %d short %d int %d long %d "
+           "long long %d pointer %d float %d double %d long double %d\n",
+           target.addressable_size, target.is_big_endian ? "big endian" : "little endian",
+           target.char_is_signed ? "signed" : "unsigned", target.size[C_char], target.size[C_short],
+           target.size[C_int], target.size[C_long], target.size[C_longlong], target.size[C_ptr],
+           target.size[C_float], target.size[C_double], target.size[C_longdouble]);
+    print_annotes(fse, 2);
+    printf("\nglobal table:\n");
+    print_table(global_st, 2);
+    printf("\nfile table:\n");
+    print_table(fse->symtab(), 2);
+    fse->reset_proc_iter();
+    while (proc_sym *p = fse->next_proc()) {
+        p->read_proc(true, false);
+        func_type *ft = p->type();
+        printf("\n%s %s(", type_text(ft->return_type()).c_str(), p->name());
+        proc_symtab *st = p->block()->proc_syms();
+        int k = 0;
+        for (sym_node_list_e *e = st->params()->head(); e; e = e->next(), ++k)
+            printf("%s%s %s", k ? ", " : "", type_text(static_cast<var_sym *>(e->contents)->type()).c_str(),
+                   e->contents->name());
+        printf(")\n{\n");
+        print_annotes(p->block(), 4);
+        for (sym_node_list_e *e = st->symbols()->head(); e; e = e->next())
+            if (!(e->contents->is_var() && static_cast<var_sym *>(e->contents)->is_param())) print_sym(e->contents, 4);
+        print_list(p->block()->body(), 4);
+        printf("}\n");
+        p->flush_proc();
+    }
+    exit_suif();
+    return 0;
+}
