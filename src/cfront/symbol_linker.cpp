@@ -80,8 +80,17 @@ std::string static_name(const std::string &name, const clang::Decl *d) {
     return cand;
 }
 
+// The merged type of the unit's declarations. A function whose every
+// declaration is old-style (a K&R definition included) has no prototype,
+// even though clang gives the definition its parameter types.
 func_type *function_type_of(const clang::FunctionDecl *fd) {
-    return static_cast<func_type *>(ir_type(fd->getMostRecentDecl()->getType()));
+    const clang::FunctionDecl *last = fd->getMostRecentDecl();
+    bool written = false;
+    for (const clang::FunctionDecl *r : fd->redecls())
+        if (r->hasWrittenPrototype()) written = true;
+    if (!written && last->getType()->isFunctionProtoType() && !fd->isImplicit())
+        return static_cast<func_type *>(ir_type(ctx->getFunctionNoProtoType(last->getReturnType())));
+    return static_cast<func_type *>(ir_type(last->getType()));
 }
 
 // The unit's view of a variable's type; an array of unknown bound that
@@ -330,7 +339,10 @@ var_sym *linked_var(const clang::VarDecl *vd) {
 }
 
 void note_read(var_sym *v) {
-    read_vars.insert(v);
+    // Only variables of the global and file tables are asked about; locals
+    // are freed with their body, and their addresses come back.
+    base_symtab *t = v->parent();
+    if (t && (t->is_global() || t->is_file())) read_vars.insert(v);
 }
 
 void link_unit(clang::ASTContext &c, const std::vector<pragma_words> &pragmas) {
