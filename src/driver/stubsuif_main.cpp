@@ -89,6 +89,18 @@ static void reset_run_variables() {
   main_generator_bounded_loop = 0;
 }
 
+// A flag that an earlier run set stays set: the parser only ever sets flags,
+// while the library's parser clears every flag it does not see.
+static void parse_command_line(int *argc, char **argv) {
+  bool *kept_flags[] = {&flag_40bits_longdouble, &flag_mgen_pure_stubs, &flag_all_procs_used, &flag_instrum};
+  bool before[4];
+  for (int i = 0; i < 4; i++)
+    before[i] = *kept_flags[i];
+  c_parse_cmd_line(argc, argv, option_table, option_count, true);
+  for (int i = 0; i < 4; i++)
+    *kept_flags[i] = *kept_flags[i] || before[i];
+}
+
 static void teardown() {
   free_used_symbols_scratch();
   drs_free_state();
@@ -110,7 +122,7 @@ int stubsuif_main(int argc, char **argv) {
   forget_stub_mode_name();
   drs_init_state();
 
-  c_parse_cmd_line(&argc, argv, option_table, option_count, true);
+  parse_command_line(&argc, argv);
   if (argc != 3)
     error_line(1, nullptr, "qvt-stubber: bad arguments");
   args.output_path = argv[2];
