@@ -134,8 +134,8 @@ operand lower_unary(const clang::UnaryOperator *u) {
     case clang::UO_Extension: return lower_expr(u->getSubExpr());
     default: break;
     }
-    const char *name = bufprintf("%s%s", clang::UnaryOperator::getOpcodeStr(u->getOpcode()).str().c_str(),
-                                 u->isPostfix() ? " post" : "");
+    const char *name = bufprintf("%s%s", u->isPostfix() ? "post" : "",
+                                 clang::UnaryOperator::getOpcodeStr(u->getOpcode()).str().c_str());
     return operand(generic(name, type_of(u), {lower_expr(u->getSubExpr())}));
 }
 

@@ -1,0 +1,6 @@
+extern int nowhere;
+
+int add(int a, int b)
+{
+    return a + b + nowhere;
+}
