@@ -126,7 +126,11 @@ int stubsuif_main(int argc, char **argv) {
   if (argc != 3)
     error_line(1, nullptr, "qvt-stubber: bad arguments");
   args.output_path = argv[2];
-  fileset->add_file(argv[1], args.flag_unknown_symbols ? nullptr : argv[2]);
+  // The IR library writes every output it was given when it closes; only the
+  // modes that write the procedures back get one, so that the symbol header
+  // mode, the range-only mode and a run without mode leave no output IR.
+  bool writes_back = !args.flag_unknown_symbols && (args.flag_stubber || args.flag_cpp_drs_gen);
+  fileset->add_file(argv[1], writes_back ? argv[2] : nullptr);
   fileset->reset_iter();
   current_fse = fileset->next_file();
 

@@ -134,6 +134,7 @@ TEST_F(EntryPoint, NoModeDoesNothing) {
   std::string out = make_dir("out");
   EXPECT_EQ(run({"-stubs-dir", out, in, dir + "/p.out.ir"}), 0);
   EXPECT_FALSE(exists(out + "/qvt_stub_types.h"));
+  EXPECT_FALSE(exists(dir + "/p.out.ir"));
 }
 
 TEST_F(EntryPoint, SymbolHeaderModeComesFirst) {
@@ -142,14 +143,17 @@ TEST_F(EntryPoint, SymbolHeaderModeComesFirst) {
   EXPECT_EQ(run({"-stubber", "-unknown-symbols", "-stubs-dir", out, in, dir + "/h.h"}), 0);
   EXPECT_TRUE(exists(dir + "/h.h"));
   EXPECT_FALSE(exists(out + "/qvt_stub_types.h"));
+  EXPECT_FALSE(exists(dir + "/qvt_stubs_0.c"));
 }
 
 TEST_F(EntryPoint, DrsModesRunOverEmptyTables) {
   std::string in = make_program("p.ir", false);
   EXPECT_EQ(run({"-cpp-drs-gen", in, dir + "/cpp.out.ir"}), 0);
   EXPECT_TRUE(flag_no_warnings_for_drs); // the C++ pass is silent
+  EXPECT_TRUE(exists(dir + "/cpp.out.ir"));
   EXPECT_EQ(run({"-drs-gen", in, dir + "/drs.out.ir"}), 0);
   EXPECT_FALSE(flag_no_warnings_for_drs);
+  EXPECT_FALSE(exists(dir + "/drs.out.ir")); // only the template is wanted
 }
 
 TEST_F(EntryPoint, WrongArgumentCountEndsTheProcess) {

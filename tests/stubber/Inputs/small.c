@@ -1,0 +1,4 @@
+int ext(int *p);
+int counter;
+
+int user(void) { return ext(&counter); }
