@@ -12,7 +12,10 @@
 #include "ir/symtabs.h"
 
 program_builder::program_builder(const char *out_name, const char *source_file)
-    : entry(fileset->add_file(nullptr, out_name)), src_file(intern(source_file)) {}
+    : entry(fileset->add_file(nullptr, out_name)), src_file(intern(source_file)) {
+    // The entry is known by its source, as a front end would name it.
+    entry->set_name(source_file);
+}
 
 global_symtab *program_builder::globals() const { return fileset->globals; }
 file_symtab *program_builder::file_table() const { return entry->symtab(); }

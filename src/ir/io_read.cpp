@@ -963,7 +963,7 @@ bool reader::read_node(tree_node **out) {
         while (next_line() && tok[0] == "@")
             if (!read_annote()) return false;
         if (failed) return false;
-        if (tok[0] != "body") return fail("a loop must go on with body");
+        if (tok[0] != "loopbody") return fail("a loop must go on with loopbody");
         std::string_view stop;
         if (!read_list(l->body(), &stop)) return false;
         if (stop != "test") return fail("expected test");

@@ -334,7 +334,7 @@ static void put_node(std::string &out, tree_node *t, file_set_entry *fse) {
         put_sym(out, l->toplab());
         out.push_back('\n');
         put_annotes(out, t);
-        out += "body\n";
+        out += "loopbody\n";
         put_list(out, l->body(), fse);
         out += "test\n";
         put_list(out, l->test(), fse);
