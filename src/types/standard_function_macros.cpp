@@ -60,10 +60,12 @@ void write_special_function_macros(proc_sym *proc) {
   write_macro_default((prefix + "return").c_str(), true, "__x", ret_stmt.c_str());
 
   annote *params = find_annote(proc, k_orig_param_types_names);
-  if (params && params->immeds()) {
-    emit_line(bufprintf("#define %snb_args %d\n", prefix.c_str(), params->immeds()->count()));
+  // An annotation without immeds is a list of no parameter: the IR file keeps no empty lists.
+  if (params) {
+    int count = params->immeds() ? params->immeds()->count() : 0;
+    emit_line(bufprintf("#define %snb_args %d\n", prefix.c_str(), count));
     int i = 0;
-    for (immed_list_e *e = params->immeds()->head(); e; e = e->next(), i++) {
+    for (immed_list_e *e = params->immeds() ? params->immeds()->head() : nullptr; e; e = e->next(), i++) {
       std::string macro = prefix + "arg" + std::to_string(i) + "_t_typedef";
       std::string type_name = prefix + "arg" + std::to_string(i) + "_t";
       const char *value = e->contents.is_string() ? make_orig_typedef(e->contents.string(), type_name.c_str()) : "";

@@ -216,6 +216,7 @@ static void define_struct(struct_type *t, bool forward_only, string_list *out) {
     type_node *ft = t->field_type(i);
     const char *fname = t->field_name(i);
     const char *sname = get_type_name(field_storage_type(t, i));
+    if (!sname) sname = "";
     if (t->field_storage_width(i) != 0)
       out->append(bufprintf("    %s%s%s %s : %d;\n", ft->is_const() ? "const " : "", ft->is_volatile() ? "volatile " : "",
                             sname, fname, ft->size()));

@@ -188,7 +188,8 @@ TEST_F(type_emitter_test, empty_struct_and_anonymous_tags) {
 }
 
 TEST_F(type_emitter_test, bit_fields_use_their_storage_type) {
-  struct_type *s = b->struct_of("bits", {{"a", b->int_of(3, false), 32}, {"b", b->const_of(b->int_of(5, true)), 32}});
+  struct_type *s = b->struct_of("bits", {{"a", type_unsigned, 3}, {"b", type_signed, 5}});
+  s->set_field_type(1, b->const_of(s->field_type(1)));
   std::string text = define(s);
   EXPECT_NE(text.find("    __QVT__UINT32 a : 3;\n"), std::string::npos) << text;
   EXPECT_NE(text.find("    const __QVT__SINT32 b : 5;\n"), std::string::npos) << text;
