@@ -31,4 +31,4 @@ int read_config(const struct config *c);
 // CHECK-NEXT:  };
 
 // ONCE:struct config
-// ONCE-NOT:struct config
+// ONCE-NOT:{{^}}struct config{{$}}

@@ -30,6 +30,6 @@ void link_both(struct a *x, struct b *y);
 // CHECK-NEXT:  };
 
 // ONCE:struct a
-// ONCE-NOT:struct a
+// ONCE-NOT:{{^}}struct a{{$}}
 // ONCE:struct b
-// ONCE-NOT:struct b
+// ONCE-NOT:{{^}}struct b{{$}}

@@ -25,4 +25,4 @@ int length(struct node *list);
 // CHECK:typedef __QVT__SINT32 __QVT__g__{{[0-9]+}}(__QVT__g__[[P]]);
 
 // ONCE:struct node
-// ONCE-NOT:struct node
+// ONCE-NOT:{{^}}struct node{{$}}
