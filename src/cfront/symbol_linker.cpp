@@ -188,6 +188,7 @@ void add_variable(const clang::VarDecl *vd) {
 // A user's own typedef of a fundamental type replaces the target's.
 void add_typedef(const clang::TypedefNameDecl *td) {
     if (in_system_header(td)) return;
+    ir_type(td->getUnderlyingType());
     std::string name = td->getName().str();
     const char *annote_name = nullptr;
     if (name == "size_t") annote_name = k_size_t;
@@ -221,10 +222,18 @@ void add_typedef(const clang::TypedefNameDecl *td) {
     global_st->append_annote(annote_name, l);
 }
 
+// Types the user defines enter the program where they are defined, used or
+// not; those of system headers only through a use.
+void add_tag(const clang::TagDecl *td) {
+    if (in_system_header(td) || !td->isThisDeclarationADefinition()) return;
+    ir_type(ctx->getTagDeclType(td));
+}
+
 void add_decls(const clang::DeclContext *dc) {
     for (const clang::Decl *d : dc->decls()) {
         if (const auto *fd = llvm::dyn_cast<clang::FunctionDecl>(d)) add_function(fd);
         else if (const auto *vd = llvm::dyn_cast<clang::VarDecl>(d)) add_variable(vd);
+        else if (const auto *tag = llvm::dyn_cast<clang::TagDecl>(d)) add_tag(tag);
         else if (const auto *td = llvm::dyn_cast<clang::TypedefNameDecl>(d)) add_typedef(td);
         else if (const auto *ls = llvm::dyn_cast<clang::LinkageSpecDecl>(d)) add_decls(ls);
     }
