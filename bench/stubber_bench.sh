@@ -1,0 +1,64 @@
+#!/usr/bin/env bash
+# Stubber benchmark: wall time and peak memory of the stub mode (-stubber) and
+# the symbol-header mode (-unknown-symbols) at 10k, 100k and 1M symbols, beside
+# the IR round trip of the same file (-cpp-drs-gen over no ranges: every body
+# read once and written back), with the ratio of each mode to the round trip
+# and the time per symbol, so that growth beyond linear shows.
+# Programs come from qvt-bench-gen when it is built, otherwise from
+# bench/gen_c.py through qvt-cfront.
+# Usage: bench/stubber_bench.sh [BUILD_DIR] (default: build); SIZES from the
+# environment (default "10000 100000 1000000").
+set -euo pipefail
+root="$(cd "$(dirname "$0")/.." && pwd)"
+build="$(cd "${1:-$root/build}" && pwd)"
+stubber="$build/bin/qvt-stubber"
+sizes="${SIZES:-10000 100000 1000000}"
+work="$(mktemp -d)"
+trap 'rm -rf "$work"' EXIT
+
+if [ ! -x "$stubber" ]; then
+  echo "stubber_bench: $stubber not built" >&2
+  exit 1
+fi
+
+# make_program N FILE: an IR program of about N symbols.
+make_program() {
+  local n=$1 out=$2
+  if [ -x "$build/bin/qvt-bench-gen" ]; then
+    "$build/bin/qvt-bench-gen" --symbols "$n" -o "$out"
+  else
+    # gen_c.py gives about 800 symbols a file of 100 functions.
+    local files=$(( (n + 799) / 800 ))
+    rm -rf "$work/src"
+    python3 "$root/bench/gen_c.py" "$work/src" "$files" 100
+    "$build/bin/qvt-cfront" "$work/src"/*.c -o "$out"
+  fi
+}
+
+# measure LABEL CMD...: prints "LABEL wall_s peak_kb" and sets $wall and $peak.
+measure() {
+  local label=$1; shift
+  /usr/bin/time -f "%e %M" -o "$work/time" "$@" >/dev/null 2>"$work/stderr" || {
+    echo "stubber_bench: '$label' failed:" >&2; tail -5 "$work/stderr" >&2; exit 1; }
+  read -r wall peak <"$work/time"
+  printf '  %-28s %8.2f s %9d KB' "$label" "$wall" "$peak"
+}
+
+ratio() { awk -v a="$1" -v b="$2" 'BEGIN { if (b > 0) printf "%.2f", a / b; else print "n/a" }'; }
+per_symbol() { awk -v t="$1" -v n="$2" 'BEGIN { printf "%.2f", t * 1e6 / n }'; }
+
+echo "stubber benchmark, $(nproc) cores, $(date -u '+%Y-%m-%d %H:%M UTC')"
+for n in $sizes; do
+  make_program "$n" "$work/p.ir"
+  symbols=$(grep -c '^sym ' "$work/p.ir" || true)
+  echo "$symbols symbols ($(du -h "$work/p.ir" | cut -f1) of IR)"
+  measure "IR round trip" "$stubber" -cpp-drs-gen "$work/p.ir" "$work/rt.ir"
+  rt=$wall
+  printf '   %s us/symbol\n' "$(per_symbol "$wall" "$symbols")"
+  rm -rf "$work/stubs" && mkdir "$work/stubs"
+  measure "-stubber" "$stubber" -stubber -stubs-dir "$work/stubs" "$work/p.ir" "$work/out.ir"
+  printf '   %s us/symbol, %sx round trip\n' "$(per_symbol "$wall" "$symbols")" "$(ratio "$wall" "$rt")"
+  measure "-unknown-symbols" "$stubber" -unknown-symbols "$work/p.ir" "$work/symbols.h"
+  printf '   %s us/symbol, %sx round trip\n' "$(per_symbol "$wall" "$symbols")" "$(ratio "$wall" "$rt")"
+  rm -f "$work/p.ir" "$work/rt.ir" "$work/out.ir" "$work/symbols.h"
+done
