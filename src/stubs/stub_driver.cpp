@@ -10,6 +10,7 @@
 #include "driver/options.h"
 #include "driver/output_files.h"
 #include "stubs/stub_bodies.h"
+#include "stubs/stub_text.h"
 #include "types/type_predicates.h"
 
 static constexpr int stubs_per_file = 200;
@@ -28,6 +29,7 @@ void generate_stubs()
     int kind = stub_kind_of(proc);
     if (count % stubs_per_file == 0) {
       write_stub_file(lines);
+      release_generated_text();
       stub_file_index++;
     }
     report_stub(proc, kind);
@@ -36,6 +38,7 @@ void generate_stubs()
     delete stub;
   }
   write_stub_file(lines);
+  release_generated_text();
   delete lines;
 }
 
