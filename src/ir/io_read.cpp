@@ -149,6 +149,7 @@ struct reader {
     std::vector<fixup> fixups;
     // Within a body: the ids it defines.
     bool in_body = false;
+    int instr_depth = 0;
 
     bool fail(const std::string &what) {
         if (!failed) {
@@ -763,7 +764,12 @@ bool reader::parse_operand(size_t &i, operand *out) {
 bool reader::parse_instr(size_t &i, instruction **out) {
     *out = nullptr;
     if (i + 5 > tok.size() || tok[i] != "(") return fail("bad instruction");
-    if (i > 200000) return fail("instruction nested too deeply");
+    if (instr_depth > 1000) return fail("instruction nested too deeply");
+    struct depth_guard {
+        int &d;
+        explicit depth_guard(int &x) : d(x) { ++d; }
+        ~depth_guard() { --d; }
+    } guard(instr_depth);
     if_ops op = if_ops_from_name(std::string(tok[i + 1]).c_str());
     if (op == io_error) return fail("unknown opcode \"" + std::string(tok[i + 1]) + "\"");
     unsigned tid;
