@@ -80,18 +80,6 @@ TEST(CallGraph, MatchesClosureOnRandomGraphs) {
   }
 }
 
-TEST(CallGraph, SmallCases) {
-  // f(0) calls g(1): f keeps its mark, g loses it.
-  EXPECT_EQ(procs_called_from_outside(2, {{0, 1}}), (std::vector<bool>{false, true}));
-  // Self call only.
-  EXPECT_EQ(procs_called_from_outside(1, {{0, 0}}), (std::vector<bool>{false}));
-  // f and g call each other; h(2) calls f: the cycle loses, h keeps.
-  EXPECT_EQ(procs_called_from_outside(3, {{0, 1}, {1, 0}, {2, 0}}), (std::vector<bool>{true, true, false}));
-  // A cycle calling out: the callee loses, the cycle keeps.
-  EXPECT_EQ(procs_called_from_outside(3, {{0, 1}, {1, 0}, {1, 2}}), (std::vector<bool>{false, false, true}));
-  EXPECT_EQ(procs_called_from_outside(0, {}), std::vector<bool>{});
-}
-
 TEST(CallGraph, LongChainDoesNotExhaustStack) {
   const uint32_t n = 2000000;
   edge_list edges;

@@ -36,12 +36,6 @@ protected:
   func_type *fn = nullptr;
 };
 
-TEST_F(Pragmas, NoPragmaMeansDefault) {
-  proc_sym *f = b->extern_proc("f", fn);
-  read_pragmas();
-  EXPECT_EQ(stub_mode_of(f), STUB_DEFAULT);
-}
-
 TEST_F(Pragmas, WordsGiveKinds) {
   proc_sym *pure = b->extern_proc("pure_f", fn), *clean = b->extern_proc("clean_f", fn);
   proc_sym *worst = b->extern_proc("worst_f", fn), *nowrite = b->extern_proc("nowrite_f", fn);
@@ -59,14 +53,6 @@ TEST_F(Pragmas, WordsGiveKinds) {
   EXPECT_EQ(stub_mode_of(defined), STUB_WORST);
 }
 
-TEST_F(Pragmas, FirstPragmaWins) {
-  proc_sym *f = b->extern_proc("f", fn);
-  pragma({"QUORVANTA_PURE", "f"});
-  pragma({"QUORVANTA_WORST", "f"});
-  read_pragmas();
-  EXPECT_EQ(stub_mode_of(f), STUB_PURE);
-}
-
 TEST_F(Pragmas, NoInstrumentNeedsInstrumentingMode) {
   proc_sym *f = b->extern_proc("f", fn);
   pragma({"QUORVANTA_NO_INSTRUMENT", "f"});
@@ -75,19 +61,6 @@ TEST_F(Pragmas, NoInstrumentNeedsInstrumentingMode) {
   flag_instrum = true;
   read_pragmas();
   EXPECT_EQ(stub_mode_of(f), STUB_NO_INSTRUMENT);
-}
-
-TEST_F(Pragmas, OddPragmasArePassedOver) {
-  proc_sym *f = b->extern_proc("f", fn);
-  pragma({});
-  pragma({"QUORVANTA_PURE"});
-  pragma({"QUORVANTA_Pure", "f"});
-  pragma({"QUORVANTA_PURE", "missing"});
-  pragma({"pack", "1"});
-  testing::internal::CaptureStderr();
-  read_pragmas();
-  EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
-  EXPECT_EQ(stub_mode_of(f), STUB_DEFAULT);
 }
 
 TEST_F(Pragmas, RangePragmaNeedsFourArguments) {

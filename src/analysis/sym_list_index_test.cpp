@@ -58,20 +58,4 @@ TEST(SymListIndex, MatchesLinearSearchesOnRandomOperations) {
   }
 }
 
-TEST(SymListIndex, RemovesFirstOccurrenceOnly) {
-  sym_node_list list;
-  sym_node *a = fake_sym(1), *b = fake_sym(2);
-  list.append(a);
-  list.append(b);
-  list.append(a);
-  sym_list_index index(&list);
-  EXPECT_TRUE(index.remove_first(a));
-  EXPECT_EQ(contents(list), (std::vector<sym_node *>{b, a}));
-  EXPECT_TRUE(index.contains(a));
-  EXPECT_TRUE(index.remove_first(a));
-  EXPECT_FALSE(index.contains(a));
-  EXPECT_FALSE(index.remove_first(a));
-  EXPECT_EQ(contents(list), (std::vector<sym_node *>{b}));
-}
-
 } // namespace

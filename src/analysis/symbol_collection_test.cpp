@@ -81,68 +81,6 @@ protected:
   func_type *int_fn = nullptr;
 };
 
-const char *const unknown_prototype_long =
-    "prog.c:4: error: function 'old' has unknown prototype\n"
-    "|        Please provide the complete prototype for this function,\n"
-    "|        or you can try using the -permissive-stubber option.\n";
-
-TEST_F(Collection, FunctionWithoutPrototypeIsRefused) {
-  undefined("old", b->func_noproto(type_signed), 4);
-  undefined("fine", int_fn, 5);
-  std::string err = collect();
-  EXPECT_EQ(err, unknown_prototype_long);
-  EXPECT_EQ(exit_status, 1);
-  EXPECT_EQ(names_of(stub_proc_list), names{"fine"});
-}
-
-TEST_F(Collection, PermissiveOnlyShortensTheMessage) {
-  flag_permissive_stubber = true;
-  undefined("old", b->func_noproto(type_signed), 4);
-  std::string err = collect();
-  EXPECT_EQ(err, "prog.c:4: error: function 'old' has unknown prototype\n"
-                 "|        Please provide the complete prototype for this function.\n");
-  EXPECT_EQ(exit_status, 1);
-  EXPECT_TRUE(names_of(stub_proc_list).empty());
-}
-
-const char *const complex_fptr_message =
-    "error: function '%s' refers to a function pointer that is either too complex,\n"
-    "|        or within a complex data-structure, or with unknown parameters.\n"
-    "|        It cannot be stubbed automatically.\n"
-    "|        This error can be ignored by using the -permissive-stubber option.\n";
-
-std::string complex_fptr_error(const char *where, const char *name) {
-  char text[1024];
-  snprintf(text, sizeof text, complex_fptr_message, name);
-  return std::string(where) + text;
-}
-
-TEST_F(Collection, FunctionPointerParameters) {
-  func_type *takes_int = b->func(type_void, {type_signed});
-  func_type *takes_ptr = b->func(type_void, {b->ptr(type_signed)});
-  func_type *no_proto = b->func_noproto(type_void);
-  struct_type *with_fptr = b->struct_of("s", {{"cb", b->ptr(takes_int)}});
-  undefined("simple_cb", b->func(type_void, {b->ptr(takes_int)}), 10);
-  undefined("ptr_cb", b->func(type_void, {b->ptr(takes_ptr)}), 11);
-  undefined("noproto_cb", b->func(type_void, {b->ptr(no_proto)}), 12);
-  undefined("struct_ptr", b->func(type_void, {b->ptr(with_fptr)}), 13);
-  undefined("struct_val", b->func(type_void, {with_fptr}), 14);
-  std::string err = collect();
-  EXPECT_EQ(err, complex_fptr_error("prog.c:11: ", "ptr_cb") + complex_fptr_error("prog.c:12: ", "noproto_cb") +
-                     complex_fptr_error("prog.c:14: ", "struct_val"));
-  EXPECT_EQ(exit_status, 1);
-  EXPECT_EQ(names_of(stub_proc_list), (names{"simple_cb", "struct_ptr"}));
-}
-
-TEST_F(Collection, FunctionReturningFunctionPointer) {
-  undefined("maker", b->func(b->ptr(int_fn), {}), 20);
-  std::string err = collect();
-  EXPECT_EQ(err, "prog.c:20: error: function 'maker' returns a function pointer.\n"
-                 "|        It cannot be stubbed automatically.\n"
-                 "|        This error can be ignored by using the -permissive-stubber option.\n");
-  EXPECT_TRUE(names_of(stub_proc_list).empty());
-}
-
 TEST_F(Collection, PermissiveAcceptsFunctionPointers) {
   flag_permissive_stubber = true;
   func_type *takes_ptr = b->func(type_void, {b->ptr(type_signed)});
@@ -181,20 +119,6 @@ TEST_F(Collection, NoInstrumentPragmaSkipsTheFunction) {
   EXPECT_EQ(names_of(stub_proc_list), names{"kept"});
 }
 
-TEST_F(Collection, NoAutomaticStubbingKeepsAllocationFunctions) {
-  flag_no_automatic_stubbing = true;
-  undefined("malloc", b->func(b->ptr(type_void), {type_unsigned_long}), 1);
-  undefined("first", int_fn, 2);
-  undefined("second", int_fn, 3);
-  std::string err = collect();
-  EXPECT_EQ(err, "error: The automatic stubber is not activated.\n"
-                 "|\tfunction \"first\" must be stubbed manually.\n"
-                 "|\tfunction \"second\" must be stubbed manually.\n");
-  EXPECT_EQ(exit_status, 1);
-  EXPECT_TRUE(automatic_stubber_reported);
-  EXPECT_EQ(names_of(stub_proc_list), names{"malloc"});
-}
-
 TEST_F(Collection, AssertAndBuiltinsAreNotStubbed) {
   undefined("assert", int_fn, 1);
   undefined("unchecked_assert", int_fn, 2);
@@ -210,37 +134,6 @@ TEST_F(Collection, FakeMainIsShownAsMain) {
   EXPECT_STREQ(display_name(fake), "main");
   std::string err = collect();
   EXPECT_NE(err.find("function 'main' has unknown prototype"), std::string::npos);
-}
-
-TEST_F(Collection, TasksAreCheckedInTheFileTable) {
-  b->defined_proc("good", b->func(type_void, {}));
-  b->defined_proc("with_param", b->func(type_void, {type_signed}));
-  undefined("missing_body", b->func(type_void, {}), 1);
-  std::string err = collect("good,with_param,missing_body,nowhere");
-  EXPECT_EQ(err, "error: Verifier found an error in parameter -entry-points: task 'with_param' has non-void "
-                 "prototype\n"
-                 "error: Verifier found an error in parameter -entry-points: task \"missing_body\" must be a "
-                 "userdef function without parameters\n"
-                 "error: Verifier found an error in parameter -entry-points: task \"nowhere\" must be a userdef "
-                 "function without parameters\n");
-  EXPECT_EQ(exit_status, 1);
-  std::vector<std::string> tasks;
-  for (string_list_e *e = task_list->head(); e; e = e->next())
-    tasks.push_back(e->contents);
-  EXPECT_EQ(tasks, (names{"good", "with_param", "missing_body", "nowhere"}));
-}
-
-TEST_F(Collection, CriticalSectionsKeepTheFunctionPart) {
-  b->defined_proc("body", b->func(type_void, {type_signed}));
-  undefined("hook", b->func(type_void, {}), 1);
-  undefined("bad", b->func(type_signed, {}), 2);
-  std::string err = collect(nullptr, "body:l1,hook:l2,bad:l3,nolabel");
-  EXPECT_EQ(err, "error: Verifier found an error in parameter -critical-section: function \"bad\" must be a "
-                 "userdef function\n");
-  std::vector<std::string> kept;
-  for (string_list_e *e = cs_begin_list->head(); e; e = e->next())
-    kept.push_back(e->contents);
-  EXPECT_EQ(kept, (names{"body", "hook", "bad"}));
 }
 
 TEST_F(Collection, MissingTemporalFileIsSilent) {

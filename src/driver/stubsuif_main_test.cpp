@@ -110,42 +110,6 @@ TEST_F(EntryPoint, CallableTwiceWithResets) {
   EXPECT_TRUE(exists(dir + "/good.out.ir"));
 }
 
-TEST_F(EntryPoint, OutputIrHoldsTheBodies) {
-  std::string in = make_program("p.ir", false);
-  std::string out = make_dir("out");
-  testing::internal::CaptureStderr();
-  EXPECT_EQ(run({"-stubber", "-stubs-dir", out, in, dir + "/p.out.ir"}), 0);
-  testing::internal::GetCapturedStderr();
-  int argc = 1;
-  char tool[] = "test";
-  char *argv[] = {tool, nullptr};
-  init_suif(argc, argv);
-  file_set_entry *fse = fileset->add_file((dir + "/p.out.ir").c_str(), nullptr);
-  proc_sym *user = global_st->lookup_proc("user");
-  ASSERT_NE(user, nullptr);
-  EXPECT_EQ(user->file(), fse);
-  user->read_proc();
-  EXPECT_NE(user->block(), nullptr);
-  exit_suif();
-}
-
-TEST_F(EntryPoint, NoModeDoesNothing) {
-  std::string in = make_program("p.ir", true);
-  std::string out = make_dir("out");
-  EXPECT_EQ(run({"-stubs-dir", out, in, dir + "/p.out.ir"}), 0);
-  EXPECT_FALSE(exists(out + "/qvt_stub_types.h"));
-  EXPECT_FALSE(exists(dir + "/p.out.ir"));
-}
-
-TEST_F(EntryPoint, SymbolHeaderModeComesFirst) {
-  std::string in = make_program("p.ir", true);
-  std::string out = make_dir("out");
-  EXPECT_EQ(run({"-stubber", "-unknown-symbols", "-stubs-dir", out, in, dir + "/h.h"}), 0);
-  EXPECT_TRUE(exists(dir + "/h.h"));
-  EXPECT_FALSE(exists(out + "/qvt_stub_types.h"));
-  EXPECT_FALSE(exists(dir + "/qvt_stubs_0.c"));
-}
-
 TEST_F(EntryPoint, DrsModesRunOverEmptyTables) {
   std::string in = make_program("p.ir", false);
   EXPECT_EQ(run({"-cpp-drs-gen", in, dir + "/cpp.out.ir"}), 0);

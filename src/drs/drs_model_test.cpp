@@ -47,19 +47,6 @@ TEST_F(DrsState, WarningsCanBeSilenced) {
   EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
 }
 
-TEST_F(DrsState, InitClearsTheRunState) {
-  drs_file_path = "x";
-  drs_file_version = -1;
-  flag_no_warnings_for_drs = true;
-  drs_free_state();
-  drs_init_state();
-  EXPECT_EQ(drs_file_path, nullptr);
-  EXPECT_EQ(drs_file_version, 0);
-  EXPECT_FALSE(flag_no_warnings_for_drs);
-  EXPECT_TRUE(drs_read_entries->empty());
-  EXPECT_TRUE(drs_entry_map->empty());
-}
-
 TEST_F(DrsState, PragmaEntries) {
   drs_add_pragma("init", "v.x", "0", "10", nullptr);
   drs_add_pragma("Init", "w", "0", "1", nullptr); // case counts: dropped
@@ -77,18 +64,6 @@ TEST_F(DrsState, PragmaEntries) {
   EXPECT_FALSE(first->fully_handled);
   EXPECT_EQ((*std::next(drs_pragma_entries->begin()))->pointer_kind, DRS_PTR_SINGLE);
   EXPECT_EQ(drs_pragma_entries->back()->pointer_kind, DRS_PTR_MULTI);
-}
-
-TEST_F(DrsState, PointerAttributes) {
-  EXPECT_EQ(drs_pointer_kind_of("1"), DRS_PTR_SINGLE);
-  EXPECT_EQ(drs_pointer_kind_of("none"), DRS_PTR_NONE);
-  EXPECT_EQ(drs_pointer_kind_of("2"), DRS_PTR_NONE);
-  EXPECT_EQ(drs_pointer_kind_of("3"), DRS_PTR_MULTI_CERTAIN_WRITE);
-  EXPECT_EQ(drs_pointer_kind_of("single_certain_write"), DRS_PTR_SINGLE_CERTAIN_WRITE);
-  EXPECT_EQ(drs_pointer_kind_of("multi"), DRS_PTR_MULTI);
-  EXPECT_EQ(drs_pointer_kind_of("11"), DRS_PTR_MULTI);
-  EXPECT_EQ(drs_pointer_kind_of(nullptr), DRS_PTR_MULTI);
-  EXPECT_STREQ(drs_mode_names[DRS_MODE_GLOBALASSERT], "globalassert");
 }
 
 TEST_F(DrsState, PassMovesPragmaEntriesAfterTheFile) {
