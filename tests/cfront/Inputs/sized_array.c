@@ -1,0 +1,1 @@
+int sized[8];
