@@ -217,7 +217,7 @@ void program_builder::add_node(proc_sym *p, tree_node *t) {
 static in_cal *make_call(program_builder *b, proc_sym *caller, operand addr, type_node *ret,
                          std::initializer_list<operand> args) {
     var_sym *dst = nullptr;
-    if (ret && ret->unqual()->op() != TYPE_VOID) dst = b->scope(caller)->new_unique_var(ret, "r");
+    if (ret && ret->unqual()->op() != TYPE_VOID) dst = b->scope(caller)->new_unique_var(ret, "_r");
     in_cal *c = new in_cal(ret, operand(dst), addr, (unsigned)args.size());
     unsigned k = 0;
     for (const operand &a : args) c->set_argument(k++, a);
@@ -239,7 +239,7 @@ in_cal *program_builder::add_indirect_call(proc_sym *caller, var_sym *fptr, std:
 }
 
 void program_builder::add_use(proc_sym *p, var_sym *v) {
-    var_sym *t = scope(p)->new_unique_var(v->type(), "u");
+    var_sym *t = scope(p)->new_unique_var(v->type(), "_u");
     add_node(p, create_assignment(t, operand(v), nullptr));
 }
 
@@ -250,7 +250,7 @@ void program_builder::add_assign(proc_sym *p, var_sym *v, long long value) {
 void program_builder::add_addr_of(proc_sym *p, sym_node *s) {
     type_node *t = s->is_var() ? static_cast<var_sym *>(s)->type() : static_cast<proc_sym *>(s)->type();
     ptr_type *pt = ptr(t);
-    var_sym *v = scope(p)->new_unique_var(pt, "a");
+    var_sym *v = scope(p)->new_unique_var(pt, "_a");
     add_node(p, create_assignment(v, operand(new in_ldc(pt, operand(), immed(s, 0))), nullptr));
 }
 
@@ -268,7 +268,7 @@ var_sym *program_builder::add_block(proc_sym *p, type_node *local_type) {
 void program_builder::add_if(proc_sym *p, var_sym *v) {
     proc_symtab *st = scope(p);
     label_sym *lab = st->new_unique_label("L");
-    var_sym *c = st->new_unique_var(type_signed, "c");
+    var_sym *c = st->new_unique_var(type_signed, "_c");
     tree_node_list *head = new tree_node_list;
     head->append(new tree_instr(new in_rrr(io_sle, type_signed, operand(c), operand(v),
                                            operand(new in_ldc(v->type(), operand(), immed(0))))));

@@ -9,6 +9,7 @@
 
 #include <cstdio>
 #include <string>
+#include <unordered_set>
 #include <vector>
 
 #include "ir/annotes.h"
@@ -47,6 +48,7 @@ private:
     const char *out_nm;
     file_symtab *st;
     std::vector<proc_sym *> proc_order;
+    std::unordered_set<proc_sym *> proc_set;
     size_t iter = 0;
 };
 

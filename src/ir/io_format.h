@@ -5,6 +5,7 @@
 #include <cstdio>
 #include <string>
 #include <string_view>
+#include <unordered_map>
 #include <vector>
 
 #include "ir/fileset.h"
@@ -13,12 +14,16 @@ struct file_set_entry::io_state {
     FILE *in = nullptr;  // the input, open while bodies may be read
     // Bodies written by write_proc, spooled until exit_suif.
     FILE *spool = nullptr;
+    long spool_size = 0;
+    bool spool_read = false;
     struct spooled {
         proc_sym *proc;
         long offset;
         long length;
     };
     std::vector<spooled> bodies;
+    // The last spooled text of each procedure, as an index into bodies.
+    std::unordered_map<proc_sym *, size_t> last_body;
     ~io_state();
 };
 

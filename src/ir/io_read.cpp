@@ -135,6 +135,7 @@ struct reader {
     FILE *in = nullptr;
     int line_no = 0;
     long line_start = 0;
+    long pos = 0;  // offset of the next line in the file
     std::string line;
     std::vector<std::string_view> tok;
     std::string *error;
@@ -164,9 +165,10 @@ struct reader {
         static thread_local char *buf = nullptr;
         static thread_local size_t cap = 0;
         for (;;) {
-            line_start = ftell(in);
+            line_start = pos;
             ssize_t n = getline(&buf, &cap, in);
             if (n <= 0) return false;
+            pos += n;
             ++line_no;
             if (buf[n - 1] != '\n') {
                 line.assign(buf, (size_t)n);
@@ -607,6 +609,7 @@ bool ir_read_tables(file_set_entry *fse, std::string *error) {
         size_t cap = 0;
         ssize_t n = getline(&buf, &cap, r.in);
         r.line_no = 1;
+        r.pos = n > 0 ? n : 0;
         std::string first = n > 0 ? std::string(buf, (size_t)n) : std::string();
         free(buf);
         if (!first.empty() && first.back() == '\n') first.pop_back();
@@ -1044,6 +1047,7 @@ bool ir_read_body(proc_sym *p, std::string *error) {
     r.fse = fse;
     r.in = fse->io->in;
     if (fseek(r.in, p->body_offset, SEEK_SET) != 0) return r.fail("cannot seek to the body");
+    r.pos = p->body_offset;
     r.line_no = p->body_line - 1;
     if (!r.next_line() || r.tok[0] != "body") return r.fail("body expected");
     if (!r.next_line() || r.tok[0] != "proc" || !r.want(1)) return r.fail("a body must start with proc");

@@ -199,10 +199,7 @@ static void put_sym_record(std::string &out, sym_node *s, bool has_body) {
 static bool will_have_body(proc_sym *p, file_set_entry *fse) {
     if (p->file() != fse) return false;
     if (p->is_in_memory() || p->body_offset >= 0) return true;
-    if (fse->io)
-        for (auto &b : fse->io->bodies)
-            if (b.proc == p) return true;
-    return false;
+    return fse->io && fse->io->last_body.count(p);
 }
 
 static void put_table_contents(std::string &out, base_symtab *st, file_set_entry *fse) {
@@ -374,9 +371,15 @@ void proc_sym::write_proc(file_set_entry *f) {
     if (!f->io->spool) return;
     std::string text;
     write_body(text, this);
-    fseek(f->io->spool, 0, SEEK_END);
-    long at = ftell(f->io->spool);
-    fwrite(text.data(), 1, text.size(), f->io->spool);
+    // The spool is only appended to, except when exit_suif reads it back.
+    if (f->io->spool_read) {
+        fseek(f->io->spool, 0, SEEK_END);
+        f->io->spool_read = false;
+    }
+    long at = f->io->spool_size;
+    if (fwrite(text.data(), 1, text.size(), f->io->spool) != text.size()) return;
+    f->io->spool_size += (long)text.size();
+    f->io->last_body[this] = f->io->bodies.size();
     f->io->bodies.push_back({this, at, (long)text.size()});
     written = true;
 }
@@ -454,11 +457,13 @@ bool ir_write_entry(file_set_entry *fse, std::string *error) {
     for (proc_sym *p : fse->procs()) {
         if (!ok) break;
         const file_set_entry::io_state::spooled *last = nullptr;
-        if (fse->io)
-            for (auto &b : fse->io->bodies)
-                if (b.proc == p) last = &b;
+        if (fse->io) {
+            auto it = fse->io->last_body.find(p);
+            if (it != fse->io->last_body.end()) last = &fse->io->bodies[it->second];
+        }
         if (last && !p->is_in_memory()) {
             ok = copy_range(fse->io->spool, last->offset, last->length, out);
+            fse->io->spool_read = true;
         } else if (p->is_in_memory()) {
             std::string b;
             write_body(b, p);
@@ -468,6 +473,7 @@ bool ir_write_entry(file_set_entry *fse, std::string *error) {
             ok = len > 0 && copy_range(fse->io->in, p->body_offset, len, out);
         } else if (last) {
             ok = copy_range(fse->io->spool, last->offset, last->length, out);
+            fse->io->spool_read = true;
         }
     }
     if (ok) ok = fputs("end-of-ir\n", out) >= 0;

@@ -3,7 +3,9 @@
 #include "ir/symtabs.h"
 
 #include <cstdio>
+#include <algorithm>
 #include <functional>
+#include <vector>
 #include <unordered_map>
 
 #include "ir/fileset.h"
@@ -254,15 +256,49 @@ global_symtab::global_symtab(const char *name) : global_or_file_symtab(name) {}
 file_symtab::file_symtab(const char *name, file_set_entry *fse)
     : global_or_file_symtab(name), entry(fse) {}
 
-// Run-wide ids and the maps from ids to objects.
+// Run-wide ids and the maps from ids to objects. Ids are dense, so small
+// ones index a vector; any others (from a hostile file) go to a hash map.
 namespace {
 unsigned next_sym = 1, next_type = 1;
-std::unordered_map<unsigned, sym_node *> &sym_map() {
-    static auto *m = new std::unordered_map<unsigned, sym_node *>;
+const unsigned dense_limit = 1u << 26;
+
+template <class T>
+struct id_map {
+    std::vector<T *> dense;
+    std::unordered_map<unsigned, T *> sparse;
+    void set(unsigned id, T *o) {
+        if (id < dense_limit) {
+            if (id >= dense.size()) dense.resize(std::max<size_t>(id + 1, dense.size() * 2), nullptr);
+            dense[id] = o;
+        } else {
+            sparse[id] = o;
+        }
+    }
+    void erase(unsigned id) {
+        if (id < dense_limit) {
+            if (id < dense.size()) dense[id] = nullptr;
+        } else {
+            sparse.erase(id);
+        }
+    }
+    T *get(unsigned id) const {
+        if (id < dense_limit) return id < dense.size() ? dense[id] : nullptr;
+        auto it = sparse.find(id);
+        return it == sparse.end() ? nullptr : it->second;
+    }
+    void clear() {
+        dense.clear();
+        dense.shrink_to_fit();
+        sparse.clear();
+    }
+};
+
+id_map<sym_node> &sym_map() {
+    static auto *m = new id_map<sym_node>;
     return *m;
 }
-std::unordered_map<unsigned, type_node *> &type_map() {
-    static auto *m = new std::unordered_map<unsigned, type_node *>;
+id_map<type_node> &type_map() {
+    static auto *m = new id_map<type_node>;
     return *m;
 }
 }  // namespace
@@ -283,18 +319,12 @@ void reset_ids() {
     sym_map().clear();
     type_map().clear();
 }
-void map_sym(unsigned id, sym_node *s) { sym_map()[id] = s; }
-void map_type(unsigned id, type_node *t) { type_map()[id] = t; }
+void map_sym(unsigned id, sym_node *s) { sym_map().set(id, s); }
+void map_type(unsigned id, type_node *t) { type_map().set(id, t); }
 void unmap_sym(unsigned id) { sym_map().erase(id); }
 void unmap_type(unsigned id) { type_map().erase(id); }
-sym_node *sym_by_id(unsigned id) {
-    auto it = sym_map().find(id);
-    return it == sym_map().end() ? nullptr : it->second;
-}
-type_node *type_by_id(unsigned id) {
-    auto it = type_map().find(id);
-    return it == type_map().end() ? nullptr : it->second;
-}
-bool sym_id_taken(unsigned id) { return sym_map().count(id) != 0; }
-bool type_id_taken(unsigned id) { return type_map().count(id) != 0; }
+sym_node *sym_by_id(unsigned id) { return sym_map().get(id); }
+type_node *type_by_id(unsigned id) { return type_map().get(id); }
+bool sym_id_taken(unsigned id) { return sym_map().get(id) != nullptr; }
+bool type_id_taken(unsigned id) { return type_map().get(id) != nullptr; }
 }  // namespace ir_internal
