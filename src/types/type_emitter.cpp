@@ -35,11 +35,11 @@ const char *get_type_name(type_node *type) {
 
 const char *set_type_name(type_node *type, const char *name) {
   if (!name) return nullptr;
-  const char *text = lexicon->enter(name)->sp;
+  immed text(name);  // a string immed enters its text into the lexicon
   // A second writer of the same type produces the same text: one mark is enough.
-  if (get_type_name(type) == text) return name;
+  if (get_type_name(type) == text.string()) return name;
   immed_list *l = new immed_list;
-  l->append(immed(text));
+  l->append(text);
   type->append_annote(k_type_name, l);
   return name;
 }
