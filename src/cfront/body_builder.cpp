@@ -72,6 +72,13 @@ label_sym *label_of(const clang::LabelDecl *ld) {
     return l;
 }
 
+// An integer constant as an immed: a machine integer when it fits, else
+// its decimal text.
+immed int_immed(const llvm::APSInt &v) {
+    if (v.getMinSignedBits() <= 64) return immed((long long)v.getExtValue());
+    return immed(im_ext_int, llvm::toString(v, 10).c_str());
+}
+
 in_gen *generic(const char *name, type_node *t, const std::vector<operand> &srcs) {
     in_gen *g = new in_gen(name, t, operand(), (unsigned)srcs.size());
     for (unsigned i = 0; i < srcs.size(); i++) g->set_src_op(i, srcs[i]);
@@ -234,7 +241,7 @@ operand lower_expr(const clang::Expr *e) {
             return operand(new in_ldc(type_of(e), operand(), immed(p)));
         }
         if (const auto *ec = llvm::dyn_cast<clang::EnumConstantDecl>(d))
-            return operand(new in_ldc(type_of(e), operand(), immed((long long)ec->getInitVal().getExtValue())));
+            return operand(new in_ldc(type_of(e), operand(), int_immed(ec->getInitVal())));
         return operand();
     }
     if (llvm::isa<clang::IntegerLiteral, clang::CharacterLiteral, clang::FloatingLiteral, clang::StringLiteral>(e))
@@ -270,7 +277,7 @@ operand lower_expr(const clang::Expr *e) {
         if (!ue->isArgumentType() && ue->getArgumentExpr()->getType()->isVariablyModifiedType())
             return operand(generic("sizeof", type_of(e), {lower_expr(ue->getArgumentExpr())}));
         if (ue->EvaluateAsInt(r, *ctx))
-            return operand(new in_ldc(type_of(e), operand(), immed((long long)r.Val.getInt().getExtValue())));
+            return operand(new in_ldc(type_of(e), operand(), int_immed(r.Val.getInt())));
         return operand(new in_ldc(type_of(e), operand(), immed(0LL)));
     }
     if (const auto *se = llvm::dyn_cast<clang::StmtExpr>(e)) {
@@ -313,6 +320,8 @@ void lower_local(const clang::VarDecl *vd, tree_node_list *out) {
         var_def *d = new var_def(v, (int)ctx->toBits(ctx->getDeclAlign(vd)));
         scope->add_def(d);
         d->annotes()->append(coordinate_to_annote(k_source_coordinates, coord_of(vd)));
+    } else {
+        v->annotes()->append(coordinate_to_annote(k_source_coordinates, coord_of(vd)));
     }
     if (const clang::Expr *init = vd->getInit()) {
         operand val = lower_expr(init);
@@ -442,6 +451,7 @@ void build_body(proc_sym *p, const clang::FunctionDecl *fd, clang::ASTContext &c
         var_sym *v = proc_table->lookup_var(name.c_str(), false) ? proc_table->new_unique_var(ir_type(pd->getType()), name.c_str())
                                                                 : proc_table->new_var(ir_type(pd->getType()), name.c_str());
         v->set_param();
+        v->annotes()->append(coordinate_to_annote(k_source_coordinates, coord_of(pd)));
         proc_table->params()->append(v);
         locals[pd] = v;
     }

@@ -63,11 +63,10 @@ bool name_taken(const char *name) {
            ft->lookup_sym(name, SYM_PROC, false) || ft->lookup_sym(name, SYM_VAR, false);
 }
 
-// A name for a static that no other symbol of the program has: its own if
-// free, else with the base name of its file, else with a number too.
-std::string static_name(const std::string &name, const clang::Decl *d) {
-    if (!name_taken(name.c_str())) return name;
-    std::string file = coord_of(d).file ? coord_of(d).file : "";
+// A name that no symbol of the program has, for a static of `file`: the
+// source name with the base name of the file, then with a number too.
+std::string unique_static_name(const std::string &name, const char *file_path) {
+    std::string file = file_path ? file_path : "";
     size_t slash = file.find_last_of('/');
     if (slash != std::string::npos) file = file.substr(slash + 1);
     size_t dot = file.find('.');
@@ -80,9 +79,28 @@ std::string static_name(const std::string &name, const clang::Decl *d) {
     return cand;
 }
 
-// The merged type of the unit's declarations. A function whose every
-// declaration is old-style (a K&R definition included) has no prototype,
-// even though clang gives the definition its parameter types.
+// The IR name of a new static: its own if free.
+std::string static_name(const std::string &name, const clang::Decl *d) {
+    if (!name_taken(name.c_str())) return name;
+    return unique_static_name(name, coord_of(d).file);
+}
+
+// A global that takes a name a static of the file table already has: the
+// static moves aside, so that every name of the program stays one symbol.
+void move_static_aside(const std::string &name) {
+    global_or_file_symtab *ft = entry->symtab();
+    sym_node *s = ft->lookup_sym(name.c_str(), SYM_PROC, false);
+    if (!s) s = ft->lookup_sym(name.c_str(), SYM_VAR, false);
+    if (!s) return;
+    coord c;
+    find_coordinate(s, &c);
+    if (!c.file && s->is_var() && static_cast<var_sym *>(s)->definition())
+        find_coordinate(static_cast<var_sym *>(s)->definition(), &c);
+    std::string cand = unique_static_name(name, c.file);
+    s->set_true_name(name.c_str());
+    s->set_name(cand.c_str());
+}
+
 func_type *function_type_of(const clang::FunctionDecl *fd) {
     const clang::FunctionDecl *last = fd->getMostRecentDecl();
     bool written = false;
@@ -286,6 +304,7 @@ proc_sym *linked_proc(const clang::FunctionDecl *fd) {
             p = g->second;
             merge_proc_type(p, fd);
         } else {
+            move_static_aside(name);
             p = global_st->new_proc(function_type_of(fd), src_unknown, name.c_str());
             global_procs[name] = p;
             is_new = true;
@@ -331,6 +350,7 @@ var_sym *linked_var(const clang::VarDecl *vd) {
             v = g->second;
             merge_var_type(v, t, vd);
         } else {
+            move_static_aside(name);
             v = global_st->new_var(t, name.c_str());
             global_vars[name] = v;
             is_new = true;

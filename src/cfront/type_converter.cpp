@@ -227,7 +227,8 @@ type_node *convert_unqualified(const clang::Type *t) {
     if (const auto *at = llvm::dyn_cast<clang::ConstantArrayType>(t)) {
         type_node *elem = ir_type(at->getElementType());
         uint64_t n = at->getSize().getZExtValue();
-        if (n == 0) return install(new array_type(elem, array_bound(0), unknown_bound));
+        // No elements (a flexible member in GNU form), or more than a bound holds.
+        if (n == 0 || n - 1 > (uint64_t)INT32_MAX) return install(new array_type(elem, array_bound(0), unknown_bound));
         return install(new array_type(elem, array_bound(0), array_bound((int)(n - 1))));
     }
     if (const auto *at = llvm::dyn_cast<clang::ArrayType>(t))

@@ -27,10 +27,12 @@ int run(int x)
 // CHECK-LABEL:int run(int x)
 // CHECK-NEXT:{
 // CHECK-NEXT:    var int (int) * local  /* #{{[0-9]+}} */
+// CHECK-NEXT:        @k_source_coordinates "{{.*}}body_refs.c" 18 11
 // CHECK-NEXT:    local = &target_fn;
 // CHECK-NEXT:    =(fp, &target_fn);
 // CHECK-NEXT:    {
 // CHECK-NEXT:        var int inner  /* #{{[0-9]+}} */
+// CHECK-NEXT:            @k_source_coordinates "{{.*}}body_refs.c" 21 13
 // CHECK-NEXT:        inner = (counter + [](table, x));
 // CHECK-NEXT:        =(counter, inner);
 // CHECK-NEXT:    }

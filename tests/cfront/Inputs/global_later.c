@@ -1,0 +1,2 @@
+int level = 3;
+int get_later(void) { return level; }

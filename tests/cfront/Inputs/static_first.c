@@ -1,0 +1,2 @@
+static int level;
+int get_first(void) { return level; }
