@@ -1,0 +1,42 @@
+#!/usr/bin/env bash
+# IR round-trip benchmark: for each size, generate a synthetic program
+# (qvt-bench-gen), then read it and write it back body by body
+# (qvt-ir-copy), and print wall time, time per symbol and peak memory. The
+# copy must be byte-identical to its input.
+# Usage: bench/ir_bench.sh [BUILD_DIR] (default: build); SIZES from the
+# environment (default: "10000 100000 1000000").
+set -euo pipefail
+root="$(cd "$(dirname "$0")/.." && pwd)"
+build="$(cd "${1:-$root/build}" && pwd)"
+gen="$build/bin/qvt-bench-gen"
+copy="$build/bin/qvt-ir-copy"
+sizes="${SIZES:-10000 100000 1000000}"
+work="$(mktemp -d)"
+trap 'rm -rf "$work"' EXIT
+
+for tool in "$gen" "$copy"; do
+  if [ ! -x "$tool" ]; then
+    echo "ir_bench: $tool not built" >&2
+    exit 1
+  fi
+done
+
+echo "IR round trip (read tables, read/write/flush each body, write the file)"
+printf '  %10s %10s %12s %10s %12s %10s\n' symbols file_MB gen_wall_s wall_s us/symbol peak_MB
+first_us=""
+for n in $sizes; do
+  in="$work/p$n.ir"
+  out="$work/p$n.out.ir"
+  /usr/bin/time -f "%e" -o "$work/gen.time" "$gen" -symbols "$n" -out "$in"
+  /usr/bin/time -f "%e %M" -o "$work/copy.time" "$copy" "$in" "$out"
+  cmp -s "$in" "$out" || { echo "ir_bench: the copy of $n symbols differs from its input" >&2; exit 1; }
+  read -r gen_wall <"$work/gen.time"
+  read -r wall peak <"$work/copy.time"
+  size_mb=$(awk -v b="$(stat -c %s "$in")" 'BEGIN { printf "%.1f", b / 1048576 }')
+  us=$(awk -v w="$wall" -v n="$n" 'BEGIN { printf "%.2f", w * 1e6 / n }')
+  [ -n "$first_us" ] || first_us=$us
+  ratio=$(awk -v a="$us" -v b="$first_us" 'BEGIN { printf "%.2f", (b > 0 ? a / b : 0) }')
+  printf '  %10d %10s %12s %10s %12s %10d   (x%s of the smallest per symbol)\n' \
+    "$n" "$size_mb" "$gen_wall" "$wall" "$us" $((peak / 1024)) "$ratio"
+  rm -f "$in" "$out"
+done
