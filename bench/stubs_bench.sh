@@ -20,13 +20,15 @@ for tool in "$cfront" "$stubber"; do
   fi
 done
 
-# measure LABEL CMD...: runs CMD, sets $wall (s) and $peak (KB), prints them.
+# measure LABEL CMD...: runs CMD, sets $wall and $cpu (s, user + system) and $peak (KB), prints
+# them. On a shared machine the CPU time is the steadier figure; the ratios use it.
 measure() {
   local label=$1; shift
-  /usr/bin/time -f "%e %M" -o "$work/time" "$@" >/dev/null 2>"$work/stderr" || {
+  /usr/bin/time -f "%e %U %S %M" -o "$work/time" "$@" >/dev/null 2>"$work/stderr" || {
     echo "stubs_bench: '$label' failed:" >&2; tail -5 "$work/stderr" >&2; exit 1; }
-  read -r wall peak <"$work/time"
-  printf '  %-28s %8.2f s %9d KB\n' "$label" "$wall" "$peak"
+  read -r wall user sys peak <"$work/time"
+  cpu=$(awk -v u="$user" -v s="$sys" 'BEGIN { printf "%.2f", u + s }')
+  printf '  %-24s wall %7.2f s  cpu %7.2f s  peak %9d KB\n' "$label" "$wall" "$cpu" "$peak"
 }
 
 per() { awk -v a="$1" -v n="$2" 'BEGIN { printf "%.2f", a * 1e6 / n }'; }
@@ -39,12 +41,12 @@ for n in $sizes; do
   echo "$n undefined functions"
   measure "qvt-cfront" "$cfront" "$dir/p.c" -o "$dir/p.ir"
   measure "IR round trip" "$stubber" -cpp-drs-gen "$dir/p.ir" "$dir/rt.ir"
-  rw=$wall rm_=$peak
+  rc=$cpu rm_=$peak
   measure "qvt-stubber -stubber" "$stubber" -stubber -stubs-dir "$dir/stubs" "$dir/p.ir" "$dir/out.ir"
   files=$(find "$dir/stubs" -name 'qvt_stubs_*.c' | wc -l)
   bytes=$(cat "$dir"/stubs/*.c "$dir"/stubs/*.h | wc -c)
-  echo "  per stub: $(per "$wall" "$n") us, $(ratio "$((peak * 1024))" "$n") bytes of peak memory;" \
-       "stub mode / round trip: time $(ratio "$wall" "$rw"), peak memory $(ratio "$peak" "$rm_");" \
+  echo "  per stub: $(per "$cpu" "$n") us cpu, $(ratio "$((peak * 1024))" "$n") bytes of peak memory;" \
+       "stub mode / round trip: cpu $(ratio "$cpu" "$rc"), peak memory $(ratio "$peak" "$rm_");" \
        "$files stub files, $((bytes / 1024)) KB of C"
   rm -rf "$dir"
 done

@@ -2,7 +2,9 @@
 // kept in memory; the roll-over test stands ahead of the function's own text.
 #include "stubs/stub_driver.h"
 
+#include <cstdarg>
 #include <cstdio>
+#include <string>
 
 #include "analysis/stub_pragmas.h"
 #include "analysis/symbol_collection.h"
@@ -42,23 +44,47 @@ void generate_stubs()
   delete lines;
 }
 
+// The report of one stub is gathered first and written at once: the standard error stream is
+// unbuffered, and one write per stub instead of one per line matters for large programs.
+static void report_add(std::string *report, const char *format, ...) __attribute__((format(printf, 2, 3)));
+static void report_add(std::string *report, const char *format, ...)
+{
+  char line[512];
+  va_list args;
+  va_start(args, format);
+  int length = vsnprintf(line, sizeof line, format, args);
+  va_end(args);
+  if (length < 0)
+    return;
+  if ((size_t)length < sizeof line) {
+    report->append(line, (size_t)length);
+    return;
+  }
+  std::string long_line((size_t)length + 1, '\0');
+  va_start(args, format);
+  vsnprintf(long_line.data(), long_line.size(), format, args);
+  va_end(args);
+  report->append(long_line.data(), (size_t)length);
+}
+
 void report_stub(proc_sym *proc, int kind)
 {
   const char *name = display_name(proc);
+  std::string report;
   switch (kind) {
   case STUB_DEFAULT:
-    fprintf(stderr, "* Function %s may write to its arguments and may return random.\n", name);
-    fprintf(stderr, "           Does not model pointer effects.\n");
+    report_add(&report, "* Function %s may write to its arguments and may return random.\n", name);
+    report_add(&report, "           Does not model pointer effects.\n");
     break;
   case STUB_PURE:
-    fprintf(stderr, "* Function %s is pure.\n", name);
+    report_add(&report, "* Function %s is pure.\n", name);
     break;
   case STUB_CLEAN:
-    fprintf(stderr, "* Function %s is stubbed cleanly.\n", name);
+    report_add(&report, "* Function %s is stubbed cleanly.\n", name);
     break;
   case STUB_WORST:
-    fprintf(stderr, "* Function %s may write to its arguments and may return parts of them.\n", name);
-    fprintf(stderr, "           Modelizes pointer effects.\n");
+    report_add(&report, "* Function %s may write to its arguments and may return parts of them.\n", name);
+    report_add(&report, "           Modelizes pointer effects.\n");
     break;
   default:
     return;
@@ -66,10 +92,11 @@ void report_stub(proc_sym *proc, int kind)
   func_type *type = proc->type();
   bool variadic = type->has_varargs();
   if (kind != STUB_PURE && variadic)
-    fprintf(stderr, "           It may write in the variable arguments.\n");
+    report_add(&report, "           It may write in the variable arguments.\n");
   if (type->return_type() != type_void && flag_return_initialized)
-    fprintf(stderr, "           Returns an initialized value.\n");
+    report_add(&report, "           Returns an initialized value.\n");
 
+  // The hidden parameters of a variadic function are never listed, but the total counts them.
   int total = (int)type->num_args();
   int named = variadic ? total - 2 : total;
   int_list constants;
@@ -78,15 +105,16 @@ void report_stub(proc_sym *proc, int kind)
       constants.append(i);
   if (!constants.is_empty()) {
     bool several = constants.count() > 1;
-    fprintf(stderr, "           Const parameters (nb params=%d): ", total);
+    report_add(&report, "           Const parameters (nb params=%d): ", total);
     if (several)
-      fprintf(stderr, "(");
+      report_add(&report, "(");
     bool first = true;
     for (int_list_iter it(&constants); !it.is_empty(); first = false)
-      fprintf(stderr, "%s#%d", first ? "" : ", ", it.step() + 1);
+      report_add(&report, "%s#%d", first ? "" : ", ", it.step() + 1);
     if (several)
-      fprintf(stderr, ")");
-    fprintf(stderr, ".\n");
+      report_add(&report, ")");
+    report_add(&report, ".\n");
   }
-  fprintf(stderr, "\n");
+  report_add(&report, "\n");
+  fputs(report.c_str(), stderr);
 }
