@@ -25,7 +25,7 @@ int stub_mode_of(sym_node *proc) {
   if (!k_stub_mode)
     return 0;
   annote *mark = proc->peek_annote(k_stub_mode);
-  if (!mark)
+  if (!mark || !mark->immeds() || mark->immeds()->is_empty())
     return 0;
   return mark->immeds()->head()->contents.integer();
 }
@@ -54,6 +54,8 @@ static void read_drs_pragma(immed_list_e *arg) {
     if (!arg)
       return;
     texts[i] = arg->contents.string();
+    if (!texts[i])
+      return;
     arg = arg->next();
   }
   const char *pointer_attribute = arg ? arg->contents.string() : nullptr;
@@ -69,13 +71,15 @@ void read_pragmas() {
     if (!args || args->is_empty())
       continue;
     immed_list_e *first = args->head();
+    // Pragma words are strings; anything else in an input file is no pragma of ours.
     const char *word = first->contents.string();
     immed_list_e *next = first->next();
-    if (!next)
+    if (!word || !next)
       continue;
     int kind = stub_kind_of_word(word);
     if (kind >= 0) {
-      sym_node *proc = global_st->lookup_sym(next->contents.string(), SYM_PROC, true);
+      const char *name = next->contents.string();
+      sym_node *proc = name ? global_st->lookup_sym(name, SYM_PROC, true) : nullptr;
       if (proc)
         set_stub_mode(proc, kind);
     } else if (flag_drs_pragmas && !strcmp(word, "QUORVANTA_DRS")) {
