@@ -29,11 +29,11 @@ proc_sym *file_set_entry::next_proc() {
 }
 
 void file_set_entry::add_proc(proc_sym *p) {
-    if (proc_set.insert(p).second) proc_order.push_back(p);
+    // Only proc_sym::set_file calls this, once per change of entry.
+    proc_order.push_back(p);
 }
 
 void file_set_entry::remove_proc(proc_sym *p) {
-    if (!proc_set.erase(p)) return;
     auto it = std::find(proc_order.begin(), proc_order.end(), p);
     if (it == proc_order.end()) return;
     size_t at = (size_t)(it - proc_order.begin());

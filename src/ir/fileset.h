@@ -32,7 +32,7 @@ public:
     // read, then those given a body in memory). next_proc gives null at the end.
     void reset_proc_iter() { iter = 0; }
     proc_sym *next_proc();
-    // Used by proc_sym::set_file.
+    // Used by proc_sym::set_file (add_proc does not check for duplicates).
     void add_proc(proc_sym *p);
     void remove_proc(proc_sym *p);
     const std::vector<proc_sym *> &procs() const { return proc_order; }
@@ -48,7 +48,6 @@ private:
     const char *out_nm;
     file_symtab *st;
     std::vector<proc_sym *> proc_order;
-    std::unordered_set<proc_sym *> proc_set;
     size_t iter = 0;
 };
 

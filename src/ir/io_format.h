@@ -22,8 +22,6 @@ struct file_set_entry::io_state {
         long length;
     };
     std::vector<spooled> bodies;
-    // The last spooled text of each procedure, as an index into bodies.
-    std::unordered_map<proc_sym *, size_t> last_body;
     ~io_state();
 };
 

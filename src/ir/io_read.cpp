@@ -246,7 +246,8 @@ struct reader {
     bool read_annote();
     bool read_type();
     bool read_field();
-    bool read_sym(std::unordered_set<unsigned> *with_body);
+    // *with_body counts the procedures that announce a body.
+    bool read_sym(long *with_body);
     bool read_def();
     bool close_open_type() {
         if (open_type && open_seen < open_expected)
@@ -256,7 +257,7 @@ struct reader {
         return true;
     }
     // Table records common to the file tables and the body tables.
-    bool table_record(bool *handled, std::unordered_set<unsigned> *with_body);
+    bool table_record(bool *handled, long *with_body);
 
     // Bodies.
     bool read_list(tree_node_list *l, std::string_view *stop);
@@ -490,7 +491,7 @@ bool reader::read_field() {
     return true;
 }
 
-bool reader::read_sym(std::unordered_set<unsigned> *with_body) {
+bool reader::read_sym(long *with_body) {
     if (tok.size() < 3) return fail("sym record too short");
     unsigned id;
     if (!uint_at(1, &id)) return false;
@@ -533,7 +534,8 @@ bool reader::read_sym(std::unordered_set<unsigned> *with_body) {
             return delete s, false;
         if (body) {
             if (!with_body) return delete s, fail("a procedure of a body table cannot have a body");
-            with_body->insert(id);
+            ++*with_body;
+            p->body_offset = -2;
         }
     } else {
         s = new label_sym(name.c_str());
@@ -561,7 +563,7 @@ bool reader::read_def() {
     return true;
 }
 
-bool reader::table_record(bool *handled, std::unordered_set<unsigned> *with_body) {
+bool reader::table_record(bool *handled, long *with_body) {
     *handled = true;
     std::string_view w = tok[0];
     if (w == "@") return read_annote();
@@ -620,7 +622,7 @@ bool ir_read_tables(file_set_entry *fse, std::string *error) {
         }
     }
 
-    std::unordered_set<unsigned> with_body;
+    long with_body = 0;
     bool seen_target = false, seen_entry = false, seen_end = false, in_bodies = false;
     int table_kind = 0;  // 0 none yet, 1 global, 2 file
     while (r.next_line()) {
@@ -700,7 +702,9 @@ bool ir_read_tables(file_set_entry *fse, std::string *error) {
             sym_node *s = ir_internal::sym_by_id(id);
             if (!s || !s->is_proc()) return r.fail("body of an unknown procedure " + std::to_string(id));
             proc_sym *p = static_cast<proc_sym *>(s);
-            if (!with_body.erase(id)) return r.fail("unexpected or second body of procedure " + std::to_string(id));
+            if (p->body_offset != -2 || p->parent() == nullptr || p->parent()->is_block())
+                return r.fail("unexpected or second body of procedure " + std::to_string(id));
+            --with_body;
             p->body_offset = r.line_start;
             p->body_line = r.line_no;
             p->set_file(fse);
@@ -727,9 +731,13 @@ bool ir_read_tables(file_set_entry *fse, std::string *error) {
     if (r.truncated_last) return r.fail("the last line has no line end: the file is truncated");
     if (!r.resolve_fixups()) return false;
     if (table_kind != 2) return r.fail("the file has no symbol tables");
-    if (!with_body.empty()) {
+    if (with_body != 0) {
         r.line_no = 0;
-        return r.fail("procedure " + std::to_string(*with_body.begin()) + " has no body");
+        for (base_symtab *st : {(base_symtab *)fs->globals, (base_symtab *)fse->symtab()})
+            for (sym_node_list_e *e = st->symbols()->head(); e; e = e->next())
+                if (e->contents->is_proc() && static_cast<proc_sym *>(e->contents)->body_offset == -2)
+                    return r.fail("procedure " + std::to_string(e->contents->sym_id()) + " has no body");
+        return r.fail("a procedure has no body");
     }
     make_predefined_types();
     return true;

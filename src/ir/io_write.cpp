@@ -199,7 +199,7 @@ static void put_sym_record(std::string &out, sym_node *s, bool has_body) {
 static bool will_have_body(proc_sym *p, file_set_entry *fse) {
     if (p->file() != fse) return false;
     if (p->is_in_memory() || p->body_offset >= 0) return true;
-    return fse->io && fse->io->last_body.count(p);
+    return p->spool_index >= 0;
 }
 
 static void put_table_contents(std::string &out, base_symtab *st, file_set_entry *fse) {
@@ -379,7 +379,7 @@ void proc_sym::write_proc(file_set_entry *f) {
     long at = f->io->spool_size;
     if (fwrite(text.data(), 1, text.size(), f->io->spool) != text.size()) return;
     f->io->spool_size += (long)text.size();
-    f->io->last_body[this] = f->io->bodies.size();
+    spool_index = (long)f->io->bodies.size();
     f->io->bodies.push_back({this, at, (long)text.size()});
     written = true;
 }
@@ -457,10 +457,9 @@ bool ir_write_entry(file_set_entry *fse, std::string *error) {
     for (proc_sym *p : fse->procs()) {
         if (!ok) break;
         const file_set_entry::io_state::spooled *last = nullptr;
-        if (fse->io) {
-            auto it = fse->io->last_body.find(p);
-            if (it != fse->io->last_body.end()) last = &fse->io->bodies[it->second];
-        }
+        if (fse->io && p->spool_index >= 0 && (size_t)p->spool_index < fse->io->bodies.size() &&
+            fse->io->bodies[(size_t)p->spool_index].proc == p)
+            last = &fse->io->bodies[(size_t)p->spool_index];
         if (last && !p->is_in_memory()) {
             ok = copy_range(fse->io->spool, last->offset, last->length, out);
             fse->io->spool_read = true;

@@ -33,7 +33,7 @@ struct string_table::impl {
     }
 };
 
-string_table::string_table() : p(new impl) {}
+string_table::string_table() : p(new impl) { p->map.reserve(1024); }
 string_table::~string_table() { delete p; }
 
 string_e *string_table::enter(const char *text) {

@@ -132,9 +132,12 @@ public:
     // Gives the procedure a body made in memory; the procedure owns it.
     void set_block(tree_proc *t);
 
-    // Internal to the reader: where the body lies in the input.
+    // Internal to the reader and writer: where the body lies in the input
+    // (-2 while a body is announced but not yet found), and the index of
+    // its last text in the entry's spool.
     long body_offset = -1;
     int body_line = 0;
+    long spool_index = -1;
 
 private:
     func_type *typ;
