@@ -357,7 +357,9 @@ string_list *make_stub(proc_sym *proc, int kind, bool is_static)
   else
     add_piece(result, "\n");
   add_piece(result, "\n");
-  add_piece(result, "%s%s\n", is_static ? "static " : "", stub_signature(proc, true));
+  char *signature = stub_signature(proc, true);
+  add_piece(result, "%s%s\n", is_static ? "static " : "", signature);
+  delete[] signature;
   add_piece(result, "{\n");
   move_pieces(result, body);
   add_piece(result, "}\n\n");

@@ -122,8 +122,11 @@ string_list *call_function_text(proc_sym *proc)
   bool is_task = proc->peek_annote(k_is_a_task) != nullptr;
   bool is_main = proc->name() == stringmain;
   add_piece(result, "{ /* call of %s %s */\n", is_task ? "task" : "function", proc->name());
-  if (proc->parent() || is_main)
-    add_piece(result, "%s\n", stub_signature(proc, false));
+  if (proc->parent() || is_main) {
+    char *prototype = stub_signature(proc, false);
+    add_piece(result, "%s\n", prototype);
+    delete[] prototype;
+  }
   func_type *type = proc->type();
   string_list arguments;
   unsigned count = type->num_args();
@@ -132,7 +135,9 @@ string_list *call_function_text(proc_sym *proc)
     add_piece(&arguments, "__ARG__%u%s", i, i + 1 < count ? ", " : "");
   }
   add_piece(result, "\n");
-  add_piece(result, "%s(%s);\n", proc->name(), join_strings(&arguments));
+  char *joined = join_strings(&arguments);
+  add_piece(result, "%s(%s);\n", proc->name(), joined);
+  delete[] joined;
   if (is_task)
     add_piece(result, "assert(0);\n");
   add_piece(result, "}\n");

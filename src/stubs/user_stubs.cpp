@@ -4,6 +4,7 @@
 
 #include <cstdio>
 #include <cstring>
+#include <string>
 
 #include "analysis/stub_pragmas.h"
 #include "driver/output_files.h"
@@ -14,24 +15,28 @@
 char *stub_signature(proc_sym *proc, bool with_names)
 {
   func_type *type = proc->type();
-  string_list pieces;
-  add_piece(&pieces, "%s %s(", type_text(type->return_type()), proc->name());
+  std::string text = type_text(type->return_type());
+  text += ' ';
+  text += proc->name();
+  text += '(';
   int visible = visible_param_count(type);
   for (int i = 0; i < visible; i++) {
-    add_piece(&pieces, "%s", type_text(type->arg_type((unsigned)i)));
+    text += type_text(type->arg_type((unsigned)i));
     if (with_names)
-      add_piece(&pieces, " P_%d", i);
+      text += " P_" + std::to_string(i);
     if (i + 1 < visible)
-      add_piece(&pieces, ", ");
+      text += ", ";
   }
   if (type->has_varargs())
-    add_piece(&pieces, visible != 0 ? ", ... " : " ... ");
+    text += visible != 0 ? ", ... " : " ... ";
   else if (visible == 0)
-    add_piece(&pieces, "%s", type_text(type_void));
-  add_piece(&pieces, ")");
+    text += type_text(type_void);
+  text += ')';
   if (!with_names)
-    add_piece(&pieces, ";");
-  return join_strings(&pieces);
+    text += ';';
+  char *result = new char[text.size() + 1];
+  memcpy(result, text.c_str(), text.size() + 1);
+  return result;
 }
 
 static bool wants_skeleton(sym_node *sym)
@@ -56,11 +61,13 @@ void write_user_stubs_file()
       continue;
     proc_sym *proc = static_cast<proc_sym *>(sym);
     const char *name = proc->name();
+    char *signature = stub_signature(proc, true);
     emit_indent();
     fprintf(out_file,
             "\n// Pragmas for function %s\n//\n// #pragma QUORVANTA_PURE \"%s\"\n// #pragma QUORVANTA_CLEAN "
             "\"%s\"\n// #pragma QUORVANTA_WORST \"%s\"\n//\n// %s\n// {\n//    ...\n// }\n\n",
-            name, name, name, name, stub_signature(proc, true));
+            name, name, name, name, signature);
+    delete[] signature;
   }
   close_output_file();
 }
