@@ -318,6 +318,14 @@ TEST_F(io, unique_names_and_lookup) {
     EXPECT_EQ(st->lookup_sym("f", SYM_PROC, true), f);
     EXPECT_EQ(st->lookup_sym("f", SYM_PROC, false), nullptr);
     EXPECT_EQ(st->lookup_sym("f", SYM_VAR, true), nullptr);
+    u->set_name("renamed");
+    EXPECT_EQ(st->lookup_var("renamed", false), u);
+    EXPECT_EQ(st->lookup_var("_tmp2", false), nullptr);
+    var_sym *late = st->new_var(type_signed, "late");
+    EXPECT_EQ(st->lookup_var("late", false), late);
+    st->remove_sym(late);
+    EXPECT_EQ(st->lookup_var("late", false), nullptr);
+    delete late;
     label_sym *l1 = st->new_unique_label(nullptr), *l2 = st->new_unique_label(nullptr);
     EXPECT_NE(l1, l2);
     EXPECT_STRNE(l1->name(), l2->name());

@@ -9,7 +9,11 @@
 
 sym_node::sym_node(const char *name) : nm(intern(name ? name : "")) {}
 
-void sym_node::set_name(const char *name) { nm = intern(name ? name : ""); }
+void sym_node::set_name(const char *name) {
+    const char *old = nm;
+    nm = intern(name ? name : "");
+    if (owner && old != nm) owner->rename_sym(this, old);
+}
 void sym_node::set_true_name(const char *name) { tn = name ? intern(name) : nullptr; }
 
 bool sym_node::is_global() const { return owner && (owner->is_global() || owner->is_file()); }

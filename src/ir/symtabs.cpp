@@ -14,7 +14,10 @@
 #include "ir/trees.h"
 #include "ir/types.h"
 
+// The name index is built on the first lookup, so that reading a file and
+// writing it back, which never looks a name up, doesn't pay for it.
 struct base_symtab::lookup_index {
+    bool names_indexed = false;
     std::unordered_multimap<const char *, sym_node *> by_name;
     std::unordered_multimap<size_t, type_node *> by_shape;
 };
@@ -80,9 +83,16 @@ void base_symtab::set_name(const char *name) { nm = intern(name ? name : ""); }
 
 sym_node *base_symtab::lookup_sym(const char *name, sym_kinds kind, bool search_parents) const {
     if (!name) return nullptr;
-    const char *key = lexicon->lookup(name) ? lexicon->lookup(name)->sp : nullptr;
-    if (!key) return nullptr;
+    string_e *interned = lexicon->lookup(name);
+    if (!interned) return nullptr;
+    const char *key = interned->sp;
     for (const base_symtab *st = this; st; st = search_parents ? st->up : nullptr) {
+        if (!st->idx->names_indexed) {
+            st->idx->by_name.reserve((size_t)st->syms.count());
+            for (sym_node_list_e *e = st->syms.head(); e; e = e->next())
+                st->idx->by_name.emplace(e->contents->name(), e->contents);
+            st->idx->names_indexed = true;
+        }
         auto range = st->idx->by_name.equal_range(key);
         sym_node *found = nullptr;
         // The earliest symbol of that name and kind wins.
@@ -133,7 +143,7 @@ sym_node *base_symtab::add_sym(sym_node *s) {
     ir_internal::map_sym(s->sym_id(), s);
     s->set_parent(this);
     syms.append(s);
-    idx->by_name.emplace(s->name(), s);
+    if (idx->names_indexed) idx->by_name.emplace(s->name(), s);
     return s;
 }
 
@@ -151,6 +161,17 @@ sym_node *base_symtab::remove_sym(sym_node *s) {
         }
     s->set_parent(nullptr);
     return s;
+}
+
+void base_symtab::rename_sym(sym_node *s, const char *old_name) {
+    if (!idx->names_indexed) return;
+    auto range = idx->by_name.equal_range(old_name);
+    for (auto it = range.first; it != range.second; ++it)
+        if (it->second == s) {
+            idx->by_name.erase(it);
+            break;
+        }
+    idx->by_name.emplace(s->name(), s);
 }
 
 var_def *base_symtab::add_def(var_def *d) {

@@ -62,8 +62,9 @@ public:
     void remove_type(type_node *t);
     type_node *lookup_type_id(unsigned id) const;
 
-    // Used by add_child.
+    // Used by add_child, and by sym_node::set_name to keep the name index.
     void set_parent(base_symtab *s) { up = s; }
+    void rename_sym(sym_node *s, const char *old_name);
 
     struct lookup_index;
 
