@@ -12,6 +12,13 @@ struct __attribute__((packed)) wire {
   long long stamp;
 };
 
+#pragma pack(2)
+struct half {
+  char c;
+  int i;
+};
+#pragma pack()
+
 struct empty {};
 
 struct flags {
@@ -30,7 +37,7 @@ struct outer {
   } point;
 };
 
-void send(struct wire *w, struct empty *e, struct flags *f, struct outer *o);
+void send(struct wire *w, struct half *h, struct empty *e, struct flags *f, struct outer *o);
 
 // CHECK:typedef signed long __QVT__SINT64;
 // CHECK:#pragma pack(1)
@@ -38,6 +45,13 @@ void send(struct wire *w, struct empty *e, struct flags *f, struct outer *o);
 // CHECK-NEXT:  {
 // CHECK-NEXT:    __QVT__SINT8 tag;
 // CHECK-NEXT:    __QVT__SINT64 stamp;
+// CHECK-NEXT:  };
+// CHECK-NEXT:#pragma pack()
+// CHECK:#pragma pack(2)
+// CHECK-NEXT:struct half
+// CHECK-NEXT:  {
+// CHECK-NEXT:    __QVT__SINT8 c;
+// CHECK-NEXT:    __QVT__SINT32 i;
 // CHECK-NEXT:  };
 // CHECK-NEXT:#pragma pack()
 // CHECK:struct empty
