@@ -22,6 +22,8 @@ void map_type(unsigned id, type_node *t);
 void unmap_sym(unsigned id);
 void unmap_type(unsigned id);
 sym_node *sym_by_id(unsigned id);
+// The sym_kinds value of a symbol id, -1 when absent.
+int sym_kind_of_id(unsigned id);
 type_node *type_by_id(unsigned id);
 bool sym_id_taken(unsigned id);
 bool type_id_taken(unsigned id);

@@ -762,10 +762,10 @@ bool reader::parse_operand(size_t &i, operand *out) {
     if (t.size() > 2 && t.substr(0, 2) == "v:") {
         unsigned id;
         if (!parse_uint(t.substr(2), &id)) return fail("bad symbol id \"" + std::string(t) + "\"");
-        sym_node *s = ir_internal::sym_by_id(id);
-        if (!s) return fail("dangling reference to symbol " + std::to_string(id));
-        if (!s->is_var()) return fail("symbol " + std::to_string(id) + " is not a variable");
-        *out = operand(static_cast<var_sym *>(s));
+        int kind = ir_internal::sym_kind_of_id(id);
+        if (kind < 0) return fail("dangling reference to symbol " + std::to_string(id));
+        if (kind != SYM_VAR) return fail("symbol " + std::to_string(id) + " is not a variable");
+        *out = operand(static_cast<var_sym *>(ir_internal::sym_by_id(id)));
         ++i;
         return true;
     }

@@ -314,6 +314,13 @@ struct id_map {
     }
 };
 
+// The kind of each dense symbol id, so that the reader checks references
+// without touching the symbols themselves.
+std::vector<signed char> &sym_kinds_map() {
+    static auto *v = new std::vector<signed char>;
+    return *v;
+}
+
 id_map<sym_node> &sym_map() {
     static auto *m = new id_map<sym_node>;
     return *m;
@@ -339,10 +346,30 @@ void reset_ids() {
     next_sym = next_type = 1;
     sym_map().clear();
     type_map().clear();
+    sym_kinds_map().clear();
+    sym_kinds_map().shrink_to_fit();
 }
-void map_sym(unsigned id, sym_node *s) { sym_map().set(id, s); }
+void map_sym(unsigned id, sym_node *s) {
+    sym_map().set(id, s);
+    if (id < dense_limit) {
+        auto &k = sym_kinds_map();
+        if (id >= k.size()) k.resize(std::max<size_t>(id + 1, k.size() * 2), -1);
+        k[id] = (signed char)s->kind();
+    }
+}
+int sym_kind_of_id(unsigned id) {
+    if (id < dense_limit) {
+        auto &k = sym_kinds_map();
+        return id < k.size() ? k[id] : -1;
+    }
+    sym_node *s = sym_map().get(id);
+    return s ? (int)s->kind() : -1;
+}
 void map_type(unsigned id, type_node *t) { type_map().set(id, t); }
-void unmap_sym(unsigned id) { sym_map().erase(id); }
+void unmap_sym(unsigned id) {
+    sym_map().erase(id);
+    if (id < sym_kinds_map().size()) sym_kinds_map()[id] = -1;
+}
 void unmap_type(unsigned id) { type_map().erase(id); }
 sym_node *sym_by_id(unsigned id) { return sym_map().get(id); }
 type_node *type_by_id(unsigned id) { return type_map().get(id); }
