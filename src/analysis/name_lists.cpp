@@ -64,6 +64,43 @@ std::string symbol_part(const char *rest) {
 
 } // namespace
 
+original_name_index::original_name_index(file_set_entry *fse) {
+  for (base_symtab *table : {static_cast<base_symtab *>(fse->symtab()), static_cast<base_symtab *>(fse->parent()->globals)})
+    for (sym_node_list_e *e = table->symbols()->head(); e; e = e->next()) {
+      const char *origin = nullptr;
+      const char *source_name = drs_original_sym_name(e->contents, &origin);
+      if (source_name)
+        by_name_[intern(source_name)].push_back({e->contents, origin});
+    }
+}
+
+// The rules of find_original_symbol, over the symbols of one name only.
+sym_node *original_name_index::find(const char *name, unsigned kind) const {
+  const char *colon = strchr(name, ':');
+  std::string wanted = colon ? symbol_part(colon + 1) : name;
+  string_e *interned = lexicon->lookup(wanted.c_str());
+  auto found = interned ? by_name_.find(interned->sp) : by_name_.end();
+  if (found == by_name_.end())
+    return nullptr;
+  if (!colon) {
+    sym_node *candidate = nullptr;
+    for (const named_sym &n : found->second) {
+      if (!kind_fits(n.sym, kind))
+        continue;
+      if (!n.origin)
+        return n.sym;
+      if (!candidate && !strchr(n.origin, ':'))
+        candidate = n.sym;
+    }
+    return candidate;
+  }
+  std::string prefix(name, colon - name);
+  for (const named_sym &n : found->second)
+    if (n.origin && !strcasecmp(n.origin, prefix.c_str()) && kind_fits(n.sym, kind))
+      return n.sym;
+  return nullptr;
+}
+
 // Symbols are compared by their source names, from before any renaming when
 // the files were linked; the file table is searched before the global one.
 sym_node *find_original_symbol(file_set_entry *fse, const char *name, unsigned kind) {

@@ -30,6 +30,16 @@ string_list *split_option(const char *text, const char *separators) {
   return split_names(text ? strdup(text) : nullptr, separators);
 }
 
+// Names of the main generator's options are looked up through one index,
+// made at the first such name of a run.
+std::unique_ptr<original_name_index> name_index;
+
+sym_node *find_user_symbol(const char *name, unsigned kind) {
+  if (!name_index)
+    name_index = std::make_unique<original_name_index>(current_fse);
+  return name_index->find(name, kind);
+}
+
 proc_sym *lookup_proc_in_file(const char *name) {
   return static_cast<proc_sym *>(current_fse->symtab()->lookup_sym(name, SYM_PROC, true));
 }
@@ -169,7 +179,7 @@ void collect_main_variables(sym_node_list *list, const char *word, bool null_is_
   } else if (word && !strncmp(word, "custom=", 7)) {
     string_list *names = split_option(word + 7, ",");
     for (string_list_e *e = names->head(); e; e = e->next()) {
-      sym_node *sym = find_original_symbol(current_fse, e->contents, SYM_VAR);
+      sym_node *sym = find_user_symbol(e->contents, SYM_VAR);
       if (!sym || !sym->is_var()) {
         if (!flag_instrum)
           warning_line(nullptr, warning, e->contents);
@@ -190,7 +200,7 @@ void collect_loop_functions(const char *word, sym_list_index &in_loop) {
   } else if (!strncmp(word, "custom=", 7)) {
     string_list *names = split_option(word + 7, ",");
     for (string_list_e *e = names->head(); e; e = e->next()) {
-      sym_node *sym = find_original_symbol(current_fse, e->contents, SYM_PROC);
+      sym_node *sym = find_user_symbol(e->contents, SYM_PROC);
       if (!sym || !sym->is_proc()) {
         if (!flag_instrum)
           warning_line(nullptr,
@@ -213,7 +223,7 @@ void collect_edge_functions(const char *names_text, proc_sym_list *&list, bool r
     return;
   string_list *names = split_option(names_text, ",");
   for (string_list_e *e = names->head(); e; e = e->next()) {
-    sym_node *sym = find_original_symbol(current_fse, e->contents, SYM_PROC);
+    sym_node *sym = find_user_symbol(e->contents, SYM_PROC);
     if (!sym || !sym->is_proc()) {
       if (!flag_instrum)
         warning_line(nullptr, warning, e->contents);
@@ -261,6 +271,7 @@ void collect_symbols(const char *tasks, const char *cs_begin, const char *cs_end
                          in_loop);
   collect_edge_functions(funcs_after, procs_after_loop, remove, "Finalization function does not exist : %s.",
                          in_loop);
+  name_index.reset();
 }
 
 bool has_drs_init(sym_node *sym) {

@@ -9,6 +9,9 @@
 
 #include "ir/ir.h"
 
+#include <unordered_map>
+#include <vector>
+
 // The kind argument of find_original_symbol that accepts every kind.
 constexpr unsigned any_sym_kind = ~0u;
 
@@ -37,6 +40,23 @@ bool contains_pointer(type_node *type);
 // The symbol a user means by name (optionally "file:name"), searching the
 // table of fse, then the global table; kind is a sym_kinds value or any_sym_kind.
 sym_node *find_original_symbol(file_set_entry *fse, const char *name, unsigned kind);
+
+// The same search over an index of the two tables, for many names in a row:
+// built once in linear time, each lookup then costs the symbols of one name.
+// REQUIRES: the two tables don't change while the index is in use.
+class original_name_index {
+public:
+  explicit original_name_index(file_set_entry *fse);
+  sym_node *find(const char *name, unsigned kind) const;
+
+private:
+  struct named_sym {
+    sym_node *sym;
+    const char *origin;
+  };
+  // Interned source name -> its symbols, file table first, each in table order.
+  std::unordered_map<const char *, std::vector<named_sym>> by_name_;
+};
 
 // Name lists. split_names cuts text in place (the elements point into it);
 // null text gives an empty list. read_name_file is silent on a missing file.

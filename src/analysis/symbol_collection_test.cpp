@@ -11,6 +11,7 @@
 #include <gtest/gtest.h>
 
 #include <cstdio>
+#include <random>
 #include <string>
 #include <vector>
 
@@ -262,6 +263,55 @@ TEST_F(Collection, SplitNamesCutsInPlace) {
   string_list *none = split_names(nullptr, ",");
   EXPECT_TRUE(none->is_empty());
   delete none;
+}
+
+} // namespace
+
+namespace {
+
+// The index against the direct search of both tables, on random programs
+// where names repeat across kinds, files and linkage.
+TEST_F(Collection, NameIndexMatchesDirectSearch) {
+  const char *pool[] = {"a", "b", "c", "d"};
+  const char *files[] = {"one.c", "two.c", "Three.c"};
+  std::mt19937 rng(99);
+  int hits = 0;
+  for (int round = 0; round < 30; round++) {
+    if (round) {
+      TearDown();
+      SetUp();
+    }
+    for (int i = rng() % 12; i > 0; i--) {
+      const char *name = pool[rng() % 4];
+      b->set_source_file(files[rng() % 3]);
+      switch (rng() % 4) {
+      case 0:
+        if (!global_st->lookup_sym(name, SYM_VAR, false) && !global_st->lookup_sym(name, SYM_PROC, false))
+          b->global_var(name, type_signed, rng() % 2);
+        break;
+      case 1:
+        if (!global_st->lookup_sym(name, SYM_VAR, false) && !global_st->lookup_sym(name, SYM_PROC, false))
+          b->defined_proc(name, int_fn);
+        break;
+      case 2:
+        b->static_var(name, type_signed);
+        break;
+      case 3:
+        b->static_proc(name, int_fn);
+        break;
+      }
+    }
+    original_name_index index(b->fse());
+    const char *queries[] = {"a", "b", "c", "d", "e", "one.c:a", "ONE.C:b", "two.c:c.x", "Three.c:d*", "three.c:a",
+                             "x.c:a", "two.c:", ":a", "a.field"};
+    for (const char *q : queries)
+      for (unsigned kind : {unsigned(SYM_VAR), unsigned(SYM_PROC), any_sym_kind}) {
+        sym_node *direct = find_original_symbol(b->fse(), q, kind);
+        ASSERT_EQ(index.find(q, kind), direct) << "round " << round << ", name " << q << ", kind " << kind;
+        hits += direct != nullptr;
+      }
+  }
+  EXPECT_GT(hits, 200); // the programs do answer most questions
 }
 
 } // namespace
