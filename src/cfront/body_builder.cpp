@@ -93,7 +93,7 @@ operand binary(if_ops op, const clang::BinaryOperator *b, bool swap) {
 }
 
 const char *binary_name(clang::BinaryOperatorKind k) {
-    return bufprintf("%s", clang::BinaryOperator::getOpcodeStr(k).str().c_str());
+    return intern(clang::BinaryOperator::getOpcodeStr(k).str().c_str());
 }
 
 operand lower_binary(const clang::BinaryOperator *b) {
@@ -141,9 +141,8 @@ operand lower_unary(const clang::UnaryOperator *u) {
     case clang::UO_Extension: return lower_expr(u->getSubExpr());
     default: break;
     }
-    const char *name = bufprintf("%s%s", u->isPostfix() ? "post" : "",
-                                 clang::UnaryOperator::getOpcodeStr(u->getOpcode()).str().c_str());
-    return operand(generic(name, type_of(u), {lower_expr(u->getSubExpr())}));
+    std::string name = (u->isPostfix() ? "post" : "") + clang::UnaryOperator::getOpcodeStr(u->getOpcode()).str();
+    return operand(generic(name.c_str(), type_of(u), {lower_expr(u->getSubExpr())}));
 }
 
 operand lower_call(const clang::CallExpr *c) {
@@ -179,8 +178,8 @@ operand lower_addr(const clang::Expr *e) {
     }
     if (const auto *m = llvm::dyn_cast<clang::MemberExpr>(e)) {
         operand base = m->isArrow() ? lower_expr(m->getBase()) : lower_addr(m->getBase());
-        return operand(generic(bufprintf("&%s%s", m->isArrow() ? "->" : ".", m->getMemberDecl()->getName().str().c_str()),
-                               t, {base}));
+        std::string name = (m->isArrow() ? "&->" : "&.") + m->getMemberDecl()->getName().str();
+        return operand(generic(name.c_str(), t, {base}));
     }
     // A string literal is its own address.
     if (const auto *sl = llvm::dyn_cast<clang::StringLiteral>(e)) {
@@ -255,8 +254,8 @@ operand lower_expr(const clang::Expr *e) {
     if (const auto *c = llvm::dyn_cast<clang::CallExpr>(e)) return lower_call(c);
     if (const auto *m = llvm::dyn_cast<clang::MemberExpr>(e)) {
         operand base = lower_expr(m->getBase());
-        const char *name = bufprintf("%s%s", m->isArrow() ? "->" : ".", m->getMemberDecl()->getName().str().c_str());
-        return operand(generic(name, type_of(e), {base}));
+        std::string name = (m->isArrow() ? "->" : ".") + m->getMemberDecl()->getName().str();
+        return operand(generic(name.c_str(), type_of(e), {base}));
     }
     if (const auto *a = llvm::dyn_cast<clang::ArraySubscriptExpr>(e)) {
         // Indexing an array variable uses the variable; it doesn't take its address.
@@ -337,7 +336,7 @@ tree_node_list *lower_body(const clang::Stmt *s) {
 
 void lower_compound(const clang::CompoundStmt *cs, tree_node_list *out) {
     block_symtab *outer = scope;
-    block_symtab *bst = new block_symtab(bufprintf("block%d", ++block_count));
+    block_symtab *bst = new block_symtab(("block" + std::to_string(++block_count)).c_str());
     outer->add_child(bst);
     scope = bst;
     tree_node_list *list = new tree_node_list;

@@ -35,7 +35,7 @@ struct tag_entry {
     bool complete;
 };
 std::map<std::string, type_node *> tag_by_place;           // kind + definition place
-std::map<std::string, std::vector<tag_entry *>> tag_by_name;  // kind + tag
+std::map<std::string, std::vector<tag_entry>> tag_by_name;  // kind + tag
 int unnamed_tag_counter = 0;
 
 type_node *install(type_node *t) {
@@ -70,30 +70,30 @@ type_node *find_tag(const clang::TagDecl *d, bool *fresh, type_node *(*make)(con
         if (it != tag_by_place.end()) return it->second;
         // A named tag that some unit only declared so far takes this definition.
         if (!name.empty()) {
-            for (tag_entry *e : tag_by_name[name_key]) {
-                if (!e->complete) {
-                    e->complete = true;
-                    tag_by_place[key] = e->node;
+            for (tag_entry &e : tag_by_name[name_key]) {
+                if (!e.complete) {
+                    e.complete = true;
+                    tag_by_place[key] = e.node;
                     *fresh = true;
-                    return e->node;
+                    return e.node;
                 }
             }
         }
-        const char *ir_name = name.empty() ? bufprintf("%d", ++unnamed_tag_counter) : name.c_str();
-        type_node *t = make(d, ir_name);
+        std::string ir_name = name.empty() ? std::to_string(++unnamed_tag_counter) : name;
+        type_node *t = make(d, ir_name.c_str());
         tag_by_place[key] = t;
-        if (!name.empty()) tag_by_name[name_key].push_back(new tag_entry{t, true});
+        if (!name.empty()) tag_by_name[name_key].push_back(tag_entry{t, true});
         *fresh = true;
         return t;
     }
     // Only declared here: any node of that tag will do.
     if (!name.empty()) {
         auto &v = tag_by_name[name_key];
-        if (!v.empty()) return v.front()->node;
+        if (!v.empty()) return v.front().node;
     }
-    const char *ir_name = name.empty() ? bufprintf("%d", ++unnamed_tag_counter) : name.c_str();
-    type_node *t = make(d, ir_name);
-    if (!name.empty()) tag_by_name[name_key].push_back(new tag_entry{t, false});
+    std::string ir_name = name.empty() ? std::to_string(++unnamed_tag_counter) : name;
+    type_node *t = make(d, ir_name.c_str());
+    if (!name.empty()) tag_by_name[name_key].push_back(tag_entry{t, false});
     return t;
 }
 
@@ -139,16 +139,16 @@ void fill_struct(struct_type *st, const clang::RecordDecl *rd) {
             type_node *t = ir_int_of(bits, sgn);
             if (canon.isVolatileQualified()) t = install(new modifier_type(TYPE_VOLATILE, t));
             if (canon.isConstQualified()) t = install(new modifier_type(TYPE_CONST, t));
-            const char *name = fd->getName().empty() ? bufprintf("__qvt_unused_field%d", filler_count++)
-                                                     : bufprintf("%s", fd->getName().str().c_str());
+            const char *name = intern(fd->getName().empty() ? ("__qvt_unused_field" + std::to_string(filler_count++)).c_str()
+                                                            : fd->getName().str().c_str());
             fields.push_back({t, name, (int)ctx->getTypeSize(ft), offset});
             continue;
         }
         const char *name;
         if (fd->isAnonymousStructOrUnion() || fd->getName().empty())
-            name = bufprintf("qvtunnsubs%d", anon_count++);
+            name = intern(("qvtunnsubs" + std::to_string(anon_count++)).c_str());
         else
-            name = bufprintf("%s", fd->getName().str().c_str());
+            name = intern(fd->getName().str().c_str());
         fields.push_back({ir_type(ft), name, 0, offset});
     }
     st->set_num_fields((unsigned)fields.size());
