@@ -1,6 +1,6 @@
 // Enumerators: the minimum of the base type is written so that C never reads an
-// out-of-range literal; an enum is written whole, also when only a pointer reaches it; an
-// unnamed enum is named by its number.
+// out-of-range literal (also 0 for an unsigned base); an enum is written whole, also when
+// only a pointer reaches it; an unnamed enum is named by its number.
 // RUN: rm -rf %t && mkdir -p %t/out
 // RUN: qvt-cfront %s -o %t/p.ir
 // RUN: qvt-stubber -stubber -no-stubs -stubs-dir %t/out %t/p.ir %t/p.out.ir
@@ -19,4 +19,10 @@ int anon_value(int v);
 // CHECK-NEXT:    MIDDLE = -3,
 // CHECK-NEXT:    HIGHEST = 2147483647
 // CHECK-NEXT:  };
-// CHECK-NEXT:typedef enum range *__QVT__g__{{[0-9]+}};
+// An enum with no negative value has an unsigned base, whose minimum is 0.
+// CHECK:enum __QVT__g__{{[0-9]+}}
+// CHECK-NEXT:  {
+// CHECK-NEXT:    ANON_A = (1-1),
+// CHECK-NEXT:    ANON_B = 1
+// CHECK-NEXT:  };
+// CHECK:typedef enum range *__QVT__g__{{[0-9]+}};
