@@ -330,12 +330,13 @@ bool reader::read_annote() {
     return true;
 }
 
-static type_ops op_of_word(std::string_view w) {
+// The type_ops value of a kind word, -1 if none.
+static int op_of_word(std::string_view w) {
     static const char *const words[] = {"int", "float", "void", "ptr", "array", "func", "group",
                                         "struct", "union", "enum", "const", "volatile", "callbyref", "null"};
     for (int i = 0; i < 14; ++i)
-        if (w == words[i]) return (type_ops)i;
-    return (type_ops)-1;
+        if (w == words[i]) return i;
+    return -1;
 }
 
 static bool parse_bound(std::string_view t, array_bound *b, reader *r, array_type *a, bool upper) {
@@ -367,8 +368,9 @@ bool reader::read_type() {
     if (!uint_at(1, &id)) return false;
     if (id == 0) return fail("type id 0 is reserved");
     if (ir_internal::type_id_taken(id)) return fail("duplicate type id " + std::to_string(id));
-    type_ops op = op_of_word(tok[2]);
-    if ((int)op < 0) return fail("unknown type kind \"" + std::string(tok[2]) + "\"");
+    int op_number = op_of_word(tok[2]);
+    if (op_number < 0) return fail("unknown type kind \"" + std::string(tok[2]) + "\"");
+    type_ops op = (type_ops)op_number;
     type_node *t = nullptr;
     auto ref = [&](size_t i, auto set) { return type_ref(tok[i], set); };
     switch (op) {

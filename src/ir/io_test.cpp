@@ -223,9 +223,15 @@ TEST_F(io, changes_after_a_body_was_written_reach_the_output) {
     // After the bodies: a new annotation, a new global, a new procedure with
     // a body made in memory, as the range passes do.
     global_st->lookup_proc("ext")->append_annote(k_drs, nullptr);
-    var_sym *v = global_st->new_unique_var(global_st->install_type(new modifier_type(TYPE_VOLATILE, type_signed)));
-    proc_sym *np = global_st->new_proc(static_cast<func_type *>(global_st->install_type(new func_type(false, type_signed))),
-                                       src_c, "Qvt_Global_Assert_1");
+    // A type that loses to an installed equal one is the caller's to free.
+    auto install = [](type_node *t) {
+        type_node *r = global_st->install_type(t);
+        if (r != t) delete t;
+        return r;
+    };
+    var_sym *v = global_st->new_unique_var(install(new modifier_type(TYPE_VOLATILE, type_signed)));
+    proc_sym *np = global_st->new_proc(static_cast<func_type *>(install(new func_type(false, type_signed))), src_c,
+                                       "Qvt_Global_Assert_1");
     np->set_userdef();
     proc_symtab *st = new proc_symtab("Qvt_Global_Assert_1");
     global_st->add_child(st);
