@@ -34,21 +34,6 @@ TEST_F(stub_bodies_test, pure_stub_is_polymorphic_and_only_returns)
                     {"}\n\n"}}));
 }
 
-TEST_F(stub_bodies_test, default_stub_walks_the_elements_of_a_pointer_to_a_scalar)
-{
-  ptr_type *out = b->ptr(type_signed);
-  proc_sym *f = b->extern_proc("read_sensor", b->func(type_void, {out, type_signed}));
-  name_types();
-  std::string r = rnd(type_signed);
-  EXPECT_EQ(pieces_of(make_stub(f, STUB_DEFAULT, false)),
-            (strings{"/*\n * read_sensor\n */\n", "\n", "\n",
-                     "__QVT__VOID read_sensor(" + gname(out) + " P_0, __QVT__SINT32 P_1)\n", "{\n",
-                     "/* parameter 0 */\n\n", "{\n", "if ((P_0 != 0) && QVT_TRUE())\n", "{\n",
-                     "while (qvt_random_int)\n", "{\n", "P_0[qvt_random_int] = " + r + ";\n", "}\n",
-                     "P_0[0] = " + r + ";\n", "}\n", "}\n\n", "/* parameter 1 is constant */\n\n", "return;\n",
-                     "}\n\n"}));
-}
-
 TEST_F(stub_bodies_test, default_stub_clamps_an_enum_written_through_a_pointer)
 {
   enum_type *colour = b->enum_of("colour", {{"RED", 0}, {"BLUE", 2}});
@@ -63,25 +48,6 @@ TEST_F(stub_bodies_test, default_stub_clamps_an_enum_written_through_a_pointer)
                      "return;\n", "}\n\n"}));
 }
 
-TEST_F(stub_bodies_test, default_stub_walks_bytes_and_pointers_for_aggregates_and_void)
-{
-  struct_type *buf = b->struct_of("buf", {{"len", type_signed}});
-  proc_sym *f = b->extern_proc("fill", b->func(type_void, {b->ptr(buf), b->ptr(type_void), b->ptr(b->ptr(type_char))}));
-  name_types();
-  strings text = pieces_of(make_stub(f, STUB_DEFAULT, false));
-  for (int i = 0; i < 3; i++) {
-    std::string p = "P_" + std::to_string(i);
-    auto at = std::find(text.begin(), text.end(), "/* parameter " + std::to_string(i) + " */\n\n");
-    ASSERT_NE(at, text.end());
-    EXPECT_EQ(strings(at + 1, at + 12),
-              (strings{"{\n", "__QVT__CHAR *p_addr = (__QVT__CHAR *)&" + p + ";\n", "while (qvt_random_int)\n", "{\n",
-                       "p_addr += qvt_random_int;\n", "if (qvt_random_int)\n", "{\n",
-                       "p_addr = *(__QVT__CHAR **)p_addr;\n", "}\n", "*p_addr = (__QVT__CHAR)qvt_random_char;\n",
-                       "}\n"}));
-    EXPECT_EQ(at[12], "}\n\n");
-  }
-}
-
 TEST_F(stub_bodies_test, default_stub_calls_a_function_pointer_and_leaves_a_struct_by_value)
 {
   func_type *callback = b->func(type_void, {});
@@ -93,20 +59,6 @@ TEST_F(stub_bodies_test, default_stub_calls_a_function_pointer_and_leaves_a_stru
                      "__QVT__VOID on(" + gname(b->ptr(callback)) + " P_0, struct pair P_1)\n", "{\n",
                      "/* parameter 0 */\n\n", "if (qvt_random_int && P_0 != 0)\n", "{ /* call of function P_0 */\n",
                      "\n", "P_0();\n", "}\n", "\n", "/* parameter 1 */\n\n", "return;\n", "}\n\n"}));
-}
-
-TEST_F(stub_bodies_test, clean_stub_guards_every_parameter)
-{
-  struct_type *pair = b->struct_of("pair", {{"p", b->ptr(type_char)}});
-  ptr_type *out = b->ptr(type_double);
-  proc_sym *f = b->extern_proc("c", b->func(type_void, {out, pair}));
-  name_types();
-  EXPECT_EQ(pieces_of(make_stub(f, STUB_CLEAN, false)),
-            (strings{"/*\n * c\n */\n", "\n", "\n", "__QVT__VOID c(" + gname(out) + " P_0, struct pair P_1)\n", "{\n",
-                     "/* parameter 0 - CLEAN mode */\n\n", "if (P_0 != 0)\n", "{\n",
-                     "P_0[qvt_random_int] = " + rnd(type_double) + ";\n", "}\n\n",
-                     "/* parameter 1 - CLEAN mode */\n\n", "if (P_1 != 0)\n", "{\n",
-                     "P_1.p[qvt_random_int] = " + rnd(type_char) + ";\n", "}\n\n", "return;\n", "}\n\n"}));
 }
 
 TEST_F(stub_bodies_test, worst_stub_roams_and_returns_the_unqualified_type)
@@ -158,28 +110,6 @@ TEST_F(stub_bodies_test, pointer_return_has_no_initialiser_and_enum_return_is_cl
                            "/* range value according to enum bounds */\n",
                            "unchecked_assert(random_for_return >= 0);\n", "unchecked_assert(random_for_return <= 1);\n",
                            "\n", "return random_for_return;\n", "}\n", "}\n\n"}));
-}
-
-static const strings varargs_block = {
-    "/* varargs access */\n", "\n", "{\n", "volatile int random = 0;\n", "volatile char random_char = 0;\n",
-    "int i=0;\n", "char *tmp, *tmp2;\n", "for (i = 0; i < __quorvanta_nb_varargs; i++)\n",
-    "{ /* Access each variable argument */\n", "tmp = (char *)__quorvanta_vararg[i];\n", "tmp2 = (char *)(int)*tmp;\n",
-    "while (random)\n", "{ /* write random in all levels */\n", "*tmp2 = random_char;\n", "tmp2 += random;\n",
-    "tmp2 = *(char**)tmp2;\n", "}\n", "}\n", "}\n\n"};
-
-TEST_F(stub_bodies_test, variadic_stub_hides_the_two_compiler_parameters_and_walks_the_arguments)
-{
-  ptr_type *fmt = b->ptr(b->const_of(type_char));
-  proc_sym *f = b->extern_proc("say", b->func(type_void, {fmt}, true));
-  name_types();
-  EXPECT_EQ(pieces_of(make_stub(f, STUB_DEFAULT, false)),
-            concat({{"/*\n * say\n */\n", "\n", "\n", "__QVT__VOID say(" + gname(fmt) + " P_0, ... )\n", "{\n",
-                     "/* parameter 0 is constant */\n\n"},
-                    varargs_block,
-                    {"return;\n", "}\n\n"}}));
-  // A pure variadic stub has no variable-argument block.
-  strings pure = pieces_of(make_stub(f, STUB_PURE, false));
-  EXPECT_EQ(std::find(pure.begin(), pure.end(), "/* varargs access */\n"), pure.end());
 }
 
 TEST_F(stub_bodies_test, instrumenting_shows_the_hidden_parameters_and_the_auto_stub_pragma)

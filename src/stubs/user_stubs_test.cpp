@@ -1,12 +1,7 @@
-// The signature builder in its forms, and the user skeleton written to a file.
+// The signature builder in its forms.
 #include "stubs/user_stubs.h"
 
-#include <cstdio>
-#include <fstream>
-#include <sstream>
-#include <unistd.h>
 
-#include "analysis/stub_pragmas.h"
 #include "stubs/stub_test_util.h"
 
 using user_stubs_test = generator_test;
@@ -41,33 +36,4 @@ TEST_F(user_stubs_test, variadic_signatures_end_in_the_ellipsis_and_a_blank)
   flag_instrum = true;
   EXPECT_STREQ(stub_signature(none, false),
                ("__QVT__SINT32 none(__QVT__SINT32, " + gname(none->type()->arg_type(1)) + ", ... );").c_str());
-}
-
-TEST_F(user_stubs_test, skeleton_offers_every_undefined_function_without_a_pragma)
-{
-  char dir[] = "/tmp/qvt_user_stubs_XXXXXX";
-  ASSERT_NE(mkdtemp(dir), nullptr);
-  stubs_dir = dir;
-  proc_sym *open_it = b->extern_proc("open_it", b->func(type_signed, {type_signed}));
-  proc_sym *chosen = b->extern_proc("chosen", b->func(type_void, {}));
-  b->extern_proc("assert", b->func(type_void, {type_signed}));
-  b->extern_proc("unchecked_assert", b->func(type_void, {type_signed}));
-  b->defined_proc("body", b->func(type_void, {}));
-  set_stub_mode(chosen, STUB_PURE);
-  (void)open_it;
-  name_types();
-  write_user_stubs_file();
-  std::string path = std::string(dir) + "/qvt_user_stubs.c";
-  std::ifstream in(path);
-  std::stringstream text;
-  text << in.rdbuf();
-  EXPECT_EQ(text.str(), "#include \"qvt_user_stubs.h\"\n\n"
-                        "\n// Pragmas for function open_it\n//\n"
-                        "// #pragma QUORVANTA_PURE \"open_it\"\n"
-                        "// #pragma QUORVANTA_CLEAN \"open_it\"\n"
-                        "// #pragma QUORVANTA_WORST \"open_it\"\n//\n"
-                        "// __QVT__SINT32 open_it(__QVT__SINT32 P_0)\n// {\n//    ...\n// }\n\n");
-  unlink(path.c_str());
-  rmdir(dir);
-  stubs_dir = nullptr;
 }
