@@ -15,6 +15,8 @@
 #include <clang/AST/RecursiveASTVisitor.h>
 #include <clang/Basic/SourceManager.h>
 #include <clang/Basic/TargetInfo.h>
+#include <llvm/ADT/DenseMap.h>
+#include <llvm/ADT/StringMap.h>
 
 #include <cstdio>
 #include <string>
@@ -27,9 +29,9 @@ namespace {
 file_set_entry *entry = nullptr;
 clang::ASTContext *ctx = nullptr;
 
-std::unordered_map<std::string, proc_sym *> global_procs;
-std::unordered_map<std::string, var_sym *> global_vars;
-std::unordered_map<const clang::Decl *, sym_node *> unit_syms;  // canonical decl -> symbol
+llvm::StringMap<proc_sym *> global_procs;
+llvm::StringMap<var_sym *> global_vars;
+llvm::DenseMap<const clang::Decl *, sym_node *> unit_syms;  // canonical decl -> symbol
 std::vector<var_sym *> linked_vars;                            // global and file variables, in order
 std::unordered_set<var_sym *> read_vars;
 std::unordered_set<var_sym *> user_declared_vars;
@@ -289,13 +291,13 @@ proc_sym *linked_proc(const clang::FunctionDecl *fd) {
     if (it != unit_syms.end()) {
         return static_cast<proc_sym *>(it->second);
     }
-    std::string name = fd->getName().str();
+    llvm::StringRef name = fd->getName();
     proc_sym *p = nullptr;
     bool is_new = false;
     if (fd->getFormalLinkage() == clang::InternalLinkage) {
-        std::string ir_name = static_name(name, fd);
+        std::string ir_name = static_name(name.str(), fd);
         p = entry->symtab()->new_proc(function_type_of(fd), src_unknown, ir_name.c_str());
-        p->set_true_name(name.c_str());
+        p->set_true_name(name.str().c_str());
         p->append_annote(k_static_sym);
         is_new = true;
     } else {
@@ -304,8 +306,8 @@ proc_sym *linked_proc(const clang::FunctionDecl *fd) {
             p = g->second;
             merge_proc_type(p, fd);
         } else {
-            move_static_aside(name);
-            p = global_st->new_proc(function_type_of(fd), src_unknown, name.c_str());
+            move_static_aside(name.str());
+            p = global_st->new_proc(function_type_of(fd), src_unknown, name.str().c_str());
             global_procs[name] = p;
             is_new = true;
         }
@@ -316,14 +318,11 @@ proc_sym *linked_proc(const clang::FunctionDecl *fd) {
         first_place[p] = place_text(fd);
         annotate_orig_types(p, *ctx, fd->getMostRecentDecl());
     }
-    if (!p->peek_annote(k_inline)) {
-        for (const clang::FunctionDecl *r : fd->redecls())
-            if (r->isInlineSpecified()) {
-                p->append_annote(k_inline);
-                break;
-            }
-    }
-    if (!p->peek_annote(k_builtin) && fd->getBuiltinID() != 0 && name.rfind("__builtin_", 0) == 0)
+    bool is_inline = false;
+    for (const clang::FunctionDecl *r : fd->redecls())
+        if (r->isInlineSpecified()) is_inline = true;
+    if (is_inline && !p->peek_annote(k_inline)) p->append_annote(k_inline);
+    if (name.startswith("__builtin_") && fd->getBuiltinID() != 0 && !p->peek_annote(k_builtin))
         p->append_annote(k_builtin);
     unit_syms[canon] = p;
     return p;
@@ -335,13 +334,13 @@ var_sym *linked_var(const clang::VarDecl *vd) {
     if (it != unit_syms.end()) return static_cast<var_sym *>(it->second);
     bool tentative_array = false;
     type_node *t = variable_type_of(vd, &tentative_array);
-    std::string name = vd->getName().str();
+    llvm::StringRef name = vd->getName();
     var_sym *v = nullptr;
     bool is_new = false;
     if (vd->getFormalLinkage() == clang::InternalLinkage) {
-        std::string ir_name = static_name(name, vd);
+        std::string ir_name = static_name(name.str(), vd);
         v = entry->symtab()->new_var(t, ir_name.c_str());
-        v->set_true_name(name.c_str());
+        v->set_true_name(name.str().c_str());
         v->append_annote(k_static_sym);
         is_new = true;
     } else {
@@ -350,8 +349,8 @@ var_sym *linked_var(const clang::VarDecl *vd) {
             v = g->second;
             merge_var_type(v, t, vd);
         } else {
-            move_static_aside(name);
-            v = global_st->new_var(t, name.c_str());
+            move_static_aside(name.str());
+            v = global_st->new_var(t, name.str().c_str());
             global_vars[name] = v;
             is_new = true;
         }

@@ -14,6 +14,7 @@
 #include <clang/AST/Attr.h>
 #include <clang/AST/Decl.h>
 #include <clang/AST/RecordLayout.h>
+#include <llvm/ADT/DenseMap.h>
 #include <llvm/ADT/StringExtras.h>
 #include <clang/Basic/SourceManager.h>
 #include <clang/Basic/TargetInfo.h>
@@ -27,7 +28,7 @@ namespace {
 
 // The unit being converted.
 clang::ASTContext *ctx = nullptr;
-std::unordered_map<const void *, type_node *> unit_cache;
+llvm::DenseMap<const void *, type_node *> unit_cache;
 
 // Tags across units.
 struct tag_entry {
