@@ -25,7 +25,7 @@ fi
 make_program() {
   local n=$1 out=$2
   if [ -x "$build/bin/qvt-bench-gen" ]; then
-    "$build/bin/qvt-bench-gen" --symbols "$n" -o "$out"
+    "$build/bin/qvt-bench-gen" -symbols "$n" -out "$out"
   else
     # gen_c.py gives about 800 symbols a file of 100 functions.
     local files=$(( (n + 799) / 800 ))
@@ -35,13 +35,21 @@ make_program() {
   fi
 }
 
-# measure LABEL CMD...: prints "LABEL wall_s peak_kb" and sets $wall and $peak.
+# measure LABEL CMD...: prints "LABEL wall_s cpu_s peak_MB" and sets $cpu.
+# Ratios and per-symbol figures use CPU time (user + system), which other
+# work on a shared machine disturbs less than wall time.
 measure() {
-  local label=$1; shift
-  /usr/bin/time -f "%e %M" -o "$work/time" "$@" >/dev/null 2>"$work/stderr" || {
-    echo "stubber_bench: '$label' failed:" >&2; tail -5 "$work/stderr" >&2; exit 1; }
-  read -r wall peak <"$work/time"
-  printf '  %-28s %8.2f s %9d KB' "$label" "$wall" "$peak"
+  local label=$1 wall user sys peak; shift
+  # Status 1 only says that the program had problems to diagnose (the
+  # generated programs have functions without prototype); anything else fails.
+  local status=0
+  /usr/bin/time -f "%e %U %S %M" -o "$work/time" "$@" >/dev/null 2>"$work/stderr" || status=$?
+  if [ "$status" -gt 1 ] || [ ! -s "$work/time" ]; then
+    echo "stubber_bench: '$label' failed with status $status:" >&2; tail -5 "$work/stderr" >&2; exit 1
+  fi
+  read -r wall user sys peak < <(tail -n 1 "$work/time")
+  cpu=$(awk -v u="$user" -v s="$sys" 'BEGIN { printf "%.2f", u + s }')
+  printf '  %-18s wall %7.2f s  cpu %7.2f s  peak %6d MB' "$label" "$wall" "$cpu" $((peak / 1024))
 }
 
 ratio() { awk -v a="$1" -v b="$2" 'BEGIN { if (b > 0) printf "%.2f", a / b; else print "n/a" }'; }
@@ -50,15 +58,15 @@ per_symbol() { awk -v t="$1" -v n="$2" 'BEGIN { printf "%.2f", t * 1e6 / n }'; }
 echo "stubber benchmark, $(nproc) cores, $(date -u '+%Y-%m-%d %H:%M UTC')"
 for n in $sizes; do
   make_program "$n" "$work/p.ir"
-  symbols=$(grep -c '^sym ' "$work/p.ir" || true)
-  echo "$symbols symbols ($(du -h "$work/p.ir" | cut -f1) of IR)"
+  symbols=$n
+  echo "$n symbols ($(du -h "$work/p.ir" | cut -f1) of IR)"
   measure "IR round trip" "$stubber" -cpp-drs-gen "$work/p.ir" "$work/rt.ir"
-  rt=$wall
-  printf '   %s us/symbol\n' "$(per_symbol "$wall" "$symbols")"
+  rt=$cpu
+  printf '  %6s us/symbol\n' "$(per_symbol "$cpu" "$symbols")"
   rm -rf "$work/stubs" && mkdir "$work/stubs"
   measure "-stubber" "$stubber" -stubber -stubs-dir "$work/stubs" "$work/p.ir" "$work/out.ir"
-  printf '   %s us/symbol, %sx round trip\n' "$(per_symbol "$wall" "$symbols")" "$(ratio "$wall" "$rt")"
+  printf '  %6s us/symbol  %sx round trip\n' "$(per_symbol "$cpu" "$symbols")" "$(ratio "$cpu" "$rt")"
   measure "-unknown-symbols" "$stubber" -unknown-symbols "$work/p.ir" "$work/symbols.h"
-  printf '   %s us/symbol, %sx round trip\n' "$(per_symbol "$wall" "$symbols")" "$(ratio "$wall" "$rt")"
+  printf '  %6s us/symbol  %sx round trip\n' "$(per_symbol "$cpu" "$symbols")" "$(ratio "$cpu" "$rt")"
   rm -f "$work/p.ir" "$work/rt.ir" "$work/out.ir" "$work/symbols.h"
 done

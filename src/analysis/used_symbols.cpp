@@ -9,8 +9,8 @@
 #include "analysis/used_symbols.h"
 #include "driver/options.h"
 
+#include <algorithm>
 #include <unordered_map>
-#include <unordered_set>
 
 static const char *k_used_symbol;
 static const char *k_dead_proc;
@@ -18,12 +18,14 @@ static const char *k_dead_proc;
 namespace {
 
 // What the walk gathers: procedures numbered in order of first sight, the
-// direct calls between them, and the symbols already marked.
+// direct calls between them, and every symbol referred to. The references are
+// marked after the walk, each symbol once, in address order: touching the
+// symbols while the bodies stream by would cost a cache miss per reference.
 struct walk_state {
   std::unordered_map<sym_node *, uint32_t> ids;
   std::vector<sym_node *> procs;
   std::vector<std::pair<uint32_t, uint32_t>> calls;
-  std::unordered_set<sym_node *> marked;
+  std::vector<sym_node *> referred;
   uint32_t caller = 0;
 
   uint32_t id_of(sym_node *sym) {
@@ -36,10 +38,7 @@ struct walk_state {
 
 walk_state *walk; // the state of the running analysis; null outside it
 
-void mark_used(sym_node *sym) {
-  if (walk->marked.insert(sym).second && !sym->peek_annote(k_used_symbol))
-    sym->append_annote(k_used_symbol);
-}
+void mark_used(sym_node *sym) { walk->referred.push_back(sym); }
 
 void visit_operand(instruction *, operand *r, void *) {
   if (r->is_symbol())
@@ -95,6 +94,7 @@ void compute_used_symbols(file_set_entry *fse) {
   k_dead_proc = register_annote(new annote_def("dead_proc", false));
   walk_state state;
   walk = &state;
+  state.ids.reserve(fse->procs().size() * 2);
 
   fse->reset_proc_iter();
   while (proc_sym *proc = fse->next_proc()) {
@@ -106,6 +106,12 @@ void compute_used_symbols(file_set_entry *fse) {
     }
     proc->flush_proc();
   }
+
+  std::sort(state.referred.begin(), state.referred.end());
+  state.referred.erase(std::unique(state.referred.begin(), state.referred.end()), state.referred.end());
+  for (sym_node *sym : state.referred)
+    if (!sym->peek_annote(k_used_symbol))
+      sym->append_annote(k_used_symbol);
 
   if (!flag_all_procs_used) {
     std::vector<bool> called = procs_called_from_outside(static_cast<uint32_t>(state.procs.size()), state.calls);
