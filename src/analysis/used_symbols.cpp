@@ -18,9 +18,10 @@ static const char *k_dead_proc;
 namespace {
 
 // What the walk gathers: procedures numbered in order of first sight, the
-// direct calls between them, and every symbol referred to. The references are
-// marked after the walk, each symbol once, in address order: touching the
-// symbols while the bodies stream by would cost a cache miss per reference.
+// direct calls between them, and the symbols referred to by the body at hand.
+// Those are marked once the body is walked, each once, in address order:
+// touching a symbol at each reference would cost a cache miss per reference.
+// It must happen before the body is freed, which frees its local symbols too.
 struct walk_state {
   std::unordered_map<sym_node *, uint32_t> ids;
   std::vector<sym_node *> procs;
@@ -74,6 +75,15 @@ void visit_node(tree_node *t, void *) {
     static_cast<tree_instr *>(t)->instr_map(visit_instr, nullptr, true);
 }
 
+void mark_referred_symbols(std::vector<sym_node *> &referred) {
+  std::sort(referred.begin(), referred.end());
+  referred.erase(std::unique(referred.begin(), referred.end()), referred.end());
+  for (sym_node *sym : referred)
+    if (!sym->peek_annote(k_used_symbol))
+      sym->append_annote(k_used_symbol);
+  referred.clear();
+}
+
 // Removes the first dead mark of sym; the annotation object is not freed, as
 // others may still hold it.
 void remove_dead_mark(sym_node *sym) {
@@ -103,15 +113,10 @@ void compute_used_symbols(file_set_entry *fse) {
     if (tree_proc *body = proc->block()) {
       state.caller = state.id_of(proc);
       body->map(visit_node, nullptr, true, true);
+      mark_referred_symbols(state.referred);
     }
     proc->flush_proc();
   }
-
-  std::sort(state.referred.begin(), state.referred.end());
-  state.referred.erase(std::unique(state.referred.begin(), state.referred.end()), state.referred.end());
-  for (sym_node *sym : state.referred)
-    if (!sym->peek_annote(k_used_symbol))
-      sym->append_annote(k_used_symbol);
 
   if (!flag_all_procs_used) {
     std::vector<bool> called = procs_called_from_outside(static_cast<uint32_t>(state.procs.size()), state.calls);
