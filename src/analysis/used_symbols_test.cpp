@@ -87,6 +87,19 @@ TEST_F(UsedSymbols, AddressTakenIsUsedAndStaysDead) {
   EXPECT_TRUE(is_used_symbol(table));
 }
 
+// Locals go with their body; under the address sanitizer this catches any
+// mark left for after the body is freed.
+TEST_F(UsedSymbols, LocalsOfABodyAreMarkedWhileItLives) {
+  proc_sym *f = defined("f");
+  var_sym *global = b->global_var("global", type_signed);
+  var_sym *local = b->add_block(f, type_signed);
+  b->add_use(f, local);
+  b->add_use(f, global);
+  b->add_if(f, global);
+  compute_used_symbols(b->fse());
+  EXPECT_TRUE(is_used_symbol(global));
+}
+
 TEST_F(UsedSymbols, UndefinedCalleeIsUsedNeverDead) {
   proc_sym *ext = b->extern_proc("ext", void_fn), *f = defined("f");
   b->add_call(f, ext, {});
