@@ -7,7 +7,7 @@
 // RUN: qvt-cfront %s -o %t/p.ir
 // RUN: qvt-stubber -stubber -stubs-dir %t/stubs %t/p.ir %t/p.out.ir 2> %t/err.txt
 // RUN: %cc-check %t/stubs/qvt_stubs_0.c
-// RUN: %frama-c -cpp-extra-args="-include %target_dir/qvt_target.h -I%target_dir -I%t/stubs" -kernel-warn-key CERT:MSC:38=inactive %s %t/stubs/qvt_stubs_0.c -eva -main __QVT__MAIN__ENTRY__POINT__ -then -report-csv %t/report.csv > %t/eva.txt 2>&1
+// RUN: %frama-c -machdep gcc_x86_64 -cpp-extra-args="-include %target_dir/qvt_target.h -I%target_dir -I%t/stubs" -kernel-warn-key CERT:MSC:38=inactive %s %t/stubs/qvt_stubs_0.c -eva -main __QVT__MAIN__ENTRY__POINT__ -then -report-csv %t/report.csv > %t/eva.txt 2>&1
 // RUN: %FileCheck-exact --check-prefix=DONE %s --input-file %t/eva.txt
 // RUN: %FileCheck-exact --check-prefix=WRITTEN %s --input-file %t/report.csv
 // RUN: %FileCheck-exact --check-prefix=PURE %s --input-file %t/report.csv
