@@ -13,6 +13,15 @@
 // RUN: %FileCheck-exact --check-prefix=PURE %s --input-file %t/report.csv
 // RUN: %FileCheck-exact --check-prefix=SMALL %s --input-file %t/report.csv
 // RUN: %FileCheck-exact --check-prefix=COVERED %s --input-file %t/report.csv
+// With -instrument the clamp is a draw of __qvt_u32_rand_range, which the header maps onto
+// Frama_C_unsigned_int_interval: the same facts hold.
+// RUN: mkdir -p %t/ins
+// RUN: qvt-stubber -stubber -instrument -stubs-dir %t/ins %t/p.ir %t/p.ins.ir 2> %t/err.ins.txt
+// RUN: %cc-check %t/ins/qvt_stubs_0.c
+// RUN: %frama-c -machdep gcc_x86_64 -cpp-extra-args="-include %target_dir/qvt_target.h -I%target_dir -I%t/ins" -kernel-warn-key CERT:MSC:38=inactive %s %t/ins/qvt_stubs_0.c -eva -main __QVT__MAIN__ENTRY__POINT__ -then -report-csv %t/report.ins.csv > %t/eva.ins.txt 2>&1
+// RUN: %FileCheck-exact --check-prefix=DONE %s --input-file %t/eva.ins.txt
+// RUN: %FileCheck-exact --check-prefix=SMALL %s --input-file %t/report.ins.csv
+// RUN: %FileCheck-exact --check-prefix=COVERED %s --input-file %t/report.ins.csv
 
 // DONE:[eva] done for function __QVT__MAIN__ENTRY__POINT__
 
