@@ -3,6 +3,8 @@
 // the output.
 #include <gtest/gtest.h>
 
+#include <cmath>
+
 #include "ir/test_util.h"
 
 using io = ir_test;
@@ -335,4 +337,92 @@ TEST_F(io, unique_names_and_lookup) {
     label_sym *l1 = st->new_unique_label(nullptr), *l2 = st->new_unique_label(nullptr);
     EXPECT_NE(l1, l2);
     EXPECT_STRNE(l1->name(), l2->name());
+}
+
+TEST_F(io, odd_texts_and_extreme_values_survive) {
+    std::string a = path("a.ir"), b = path("b.ir");
+    std::string all;
+    for (int c = 1; c < 256; ++c) all.push_back((char)c);
+    {
+        program_builder pb(a.c_str());
+        var_sym *v = pb.global_var(all.c_str(), type_signed);
+        pb.annotate(v, "values",
+                    {immed(-9223372036854775807LL - 1), immed(9223372036854775807LL), immed(-0.0), immed(1e308),
+                     immed(5e-324), immed(1.0 / 3.0), immed(all.c_str()), immed(im_ext_float, "")});
+    }
+    restart();
+    copy_file(a, b);
+    restart();
+    EXPECT_EQ(slurp(a), slurp(b));
+    fileset->add_file(a.c_str(), nullptr);
+    var_sym *v = global_st->lookup_var(all.c_str());
+    ASSERT_NE(v, nullptr);
+    immed_list_e *e = v->peek_annote(intern("values"))->immeds()->head();
+    EXPECT_EQ(e->contents.integer(), -9223372036854775807LL - 1);
+    e = e->next();
+    EXPECT_EQ(e->contents.integer(), 9223372036854775807LL);
+    e = e->next();
+    EXPECT_TRUE(std::signbit(e->contents.flt()));
+    e = e->next();
+    EXPECT_EQ(e->contents.flt(), 1e308);
+    e = e->next();
+    EXPECT_EQ(e->contents.flt(), 5e-324);
+    e = e->next();
+    EXPECT_EQ(e->contents.flt(), 1.0 / 3.0);
+    e = e->next();
+    EXPECT_EQ(std::string(e->contents.string()), all);
+    e = e->next();
+    EXPECT_STREQ(e->contents.ext_flt(), "");
+}
+
+TEST_F(io, names_registered_as_not_output_stay_in_memory) {
+    std::string a = path("a.ir");
+    {
+        program_builder pb(a.c_str());
+        const char *mark = register_annote(new annote_def("type_defined", false));
+        const char *kept = register_annote(new annote_def("kept_mark", true));
+        pb.annotate(type_signed, mark);
+        pb.annotate(type_signed, kept);
+        EXPECT_EQ(lookup_annote(mark)->is_output(), false);
+    }
+    restart();
+    fileset->add_file(a.c_str(), nullptr);
+    EXPECT_EQ(type_signed->peek_annote(intern("type_defined")), nullptr);
+    EXPECT_NE(type_signed->peek_annote(intern("kept_mark")), nullptr);
+}
+
+TEST_F(io, the_last_write_of_a_body_wins) {
+    std::string a = path("a.ir"), b = path("b.ir");
+    {
+        program_builder pb(a.c_str());
+        pb.defined_proc("f", pb.func(type_void, {}));
+    }
+    restart();
+    file_set_entry *fse = fileset->add_file(a.c_str(), b.c_str());
+    proc_sym *f = global_st->lookup_proc("f");
+    f->read_proc(true, false);
+    f->write_proc(fse);
+    tree_node_list *body = f->block()->body();
+    body->push(new tree_instr(new in_rrr(io_mrk)));
+    f->write_proc(fse);
+    f->flush_proc();
+    restart();
+    fileset->add_file(b.c_str(), nullptr);
+    f = global_st->lookup_proc("f");
+    f->read_proc(true, false);
+    EXPECT_EQ(f->block()->body()->count(), 2);
+    EXPECT_EQ(static_cast<tree_instr *>(f->block()->body()->head()->contents)->instr()->opcode(), io_mrk);
+}
+
+TEST_F(io, an_output_that_cannot_be_written_is_reported_and_absent) {
+    std::string out = path("no_such_dir/out.ir");
+    EXPECT_EXIT(
+        {
+            program_builder pb(out.c_str());
+            pb.global_var("g", type_signed);
+            exit_suif();
+            exit(0);
+        },
+        ::testing::ExitedWithCode(1), "no_such_dir/out.ir:0: cannot write: No such file or directory");
+    EXPECT_FALSE(file_exists(out));
 }
