@@ -441,7 +441,8 @@ void build_body(proc_sym *p, const clang::FunctionDecl *fd, clang::ASTContext &c
     locals.clear();
     labels.clear();
     block_count = 0;
-    proc_table = new proc_symtab(p->name());
+    // Named as the source names the function: a static local is known by it.
+    proc_table = new proc_symtab(p->true_name());
     p->parent()->add_child(proc_table);
     scope = proc_table;
     for (const clang::ParmVarDecl *pd : fd->parameters()) {
