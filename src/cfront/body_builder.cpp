@@ -79,9 +79,14 @@ immed int_immed(const llvm::APSInt &v) {
     return immed(im_ext_int, llvm::toString(v, 10).c_str());
 }
 
+// A generic instruction over the operands that have a value (a statement
+// expression ending in a statement has none).
 in_gen *generic(const char *name, type_node *t, const std::vector<operand> &srcs) {
-    in_gen *g = new in_gen(name, t, operand(), (unsigned)srcs.size());
-    for (unsigned i = 0; i < srcs.size(); i++) g->set_src_op(i, srcs[i]);
+    std::vector<operand> vals;
+    for (const operand &o : srcs)
+        if (!o.is_null()) vals.push_back(o);
+    in_gen *g = new in_gen(name, t, operand(), (unsigned)vals.size());
+    for (unsigned i = 0; i < vals.size(); i++) g->set_src_op(i, vals[i]);
     return g;
 }
 
