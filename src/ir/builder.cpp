@@ -53,12 +53,12 @@ func_type *program_builder::func_noproto(type_node *ret) {
     return static_cast<func_type *>(install(new func_type(false, ret)));
 }
 
-struct_type *program_builder::aggregate(type_ops op, const char *tag, std::initializer_list<field_spec> fields) {
+struct_type *program_builder::aggregate(type_ops op, const char *tag, std::initializer_list<field_desc> fields) {
     struct_type *s = new struct_type(op, 0, tag, (unsigned)fields.size());
     int offset = 0, size = 0, align = target.struct_align;
     int bit_unit_start = -1, bit_unit_size = 0, bit_pos = 0;
     unsigned k = 0;
-    for (const field_spec &f : fields) {
+    for (const field_desc &f : fields) {
         s->set_field_name(k, f.name);
         int fa = get_alignment(f.type);
         if (fa > align) align = fa;
@@ -101,18 +101,18 @@ struct_type *program_builder::aggregate(type_ops op, const char *tag, std::initi
     return s;
 }
 
-struct_type *program_builder::struct_of(const char *tag, std::initializer_list<field_spec> fields) {
+struct_type *program_builder::struct_of(const char *tag, std::initializer_list<field_desc> fields) {
     return aggregate(TYPE_STRUCT, tag, fields);
 }
 
-struct_type *program_builder::union_of(const char *tag, std::initializer_list<field_spec> fields) {
+struct_type *program_builder::union_of(const char *tag, std::initializer_list<field_desc> fields) {
     return aggregate(TYPE_UNION, tag, fields);
 }
 
-enum_type *program_builder::enum_of(const char *tag, std::initializer_list<enum_member_spec> members) {
+enum_type *program_builder::enum_of(const char *tag, std::initializer_list<enum_member_desc> members) {
     enum_type *e = new enum_type(tag, target.size[C_int], true, (unsigned)members.size());
     unsigned k = 0;
-    for (const enum_member_spec &m : members) {
+    for (const enum_member_desc &m : members) {
         e->set_member(k, m.name);
         e->set_value(k++, i_integer(m.value));
     }

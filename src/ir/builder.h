@@ -19,13 +19,16 @@
 #include "ir/trees.h"
 #include "ir/types.h"
 
-struct field_spec {
+struct field_desc {
     const char *name;
     type_node *type;
     int bit_width = 0;  // not 0 for a bit-field
 };
 
-struct enum_member_spec {
+// Older name of field_desc, still used by a test elsewhere in the tree.
+using field_spec = field_desc;
+
+struct enum_member_desc {
     const char *name;
     long long value;
 };
@@ -53,9 +56,9 @@ public:
     func_type *func_noproto(type_node *ret);
     // Offsets and size follow the target's alignments; bit-fields pack into
     // units of their type's size.
-    struct_type *struct_of(const char *tag, std::initializer_list<field_spec> fields);
-    struct_type *union_of(const char *tag, std::initializer_list<field_spec> fields);
-    enum_type *enum_of(const char *tag, std::initializer_list<enum_member_spec> members);
+    struct_type *struct_of(const char *tag, std::initializer_list<field_desc> fields);
+    struct_type *union_of(const char *tag, std::initializer_list<field_desc> fields);
+    enum_type *enum_of(const char *tag, std::initializer_list<enum_member_desc> members);
     // An integer of any size in bits (for bit-field types).
     type_node *int_of(int bits, bool is_signed);
 
@@ -97,7 +100,7 @@ public:
 
 private:
     void finish_sym(sym_node *s, suif_object *coord_holder);
-    struct_type *aggregate(type_ops op, const char *tag, std::initializer_list<field_spec> fields);
+    struct_type *aggregate(type_ops op, const char *tag, std::initializer_list<field_desc> fields);
     file_set_entry *entry;
     const char *src_file;
     int cur_line = 1;
