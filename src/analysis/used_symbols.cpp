@@ -10,31 +10,23 @@
 #include "driver/options.h"
 
 #include <algorithm>
-#include <unordered_map>
 
 static const char *k_used_symbol;
 static const char *k_dead_proc;
 
 namespace {
 
-// What the walk gathers: procedures numbered in order of first sight, the
-// direct calls between them, and the symbols referred to by the body at hand.
-// Those are marked once the body is walked, each once, in address order:
-// touching a symbol at each reference would cost a cache miss per reference.
-// It must happen before the body is freed, which frees its local symbols too.
+// What the walk gathers: the procedures walked (a procedure's number is its
+// place here), the direct calls from each, and the symbols referred to by the
+// body at hand. Those are marked once the body is walked, each once, in
+// address order: touching a symbol at each reference would cost a cache miss
+// per reference. It must happen before the body is freed, which frees its
+// local symbols too.
 struct walk_state {
-  std::unordered_map<sym_node *, uint32_t> ids;
   std::vector<sym_node *> procs;
-  std::vector<std::pair<uint32_t, uint32_t>> calls;
+  std::vector<std::pair<sym_node *, uint32_t>> calls; // callee, caller number
   std::vector<sym_node *> referred;
   uint32_t caller = 0;
-
-  uint32_t id_of(sym_node *sym) {
-    auto [it, added] = ids.emplace(sym, static_cast<uint32_t>(procs.size()));
-    if (added)
-      procs.push_back(sym);
-    return it->second;
-  }
 };
 
 walk_state *walk; // the state of the running analysis; null outside it
@@ -53,7 +45,7 @@ void visit_instr(instruction *i, void *) {
     if (addr.is_instr() && addr.instr()->opcode() == io_ldc) {
       const immed &callee = static_cast<in_ldc *>(addr.instr())->value();
       if (callee.is_symbol())
-        walk->calls.push_back({walk->caller, walk->id_of(callee.symbol())});
+        walk->calls.push_back({callee.symbol(), walk->caller});
     }
     i->src_map(visit_operand, nullptr);
     break;
@@ -84,6 +76,29 @@ void mark_referred_symbols(std::vector<sym_node *> &referred) {
   referred.clear();
 }
 
+// The calls as edges between procedure numbers, by a merge of the calls and
+// the procedures both sorted by address, which is cheaper than a lookup per
+// call. A callee that was not walked has no body here: it carries no dead
+// mark, and no edge leaves it, so the calls to it change nothing and go.
+std::vector<std::pair<uint32_t, uint32_t>> numbered_calls(walk_state &state) {
+  std::vector<std::pair<sym_node *, uint32_t>> numbers;
+  numbers.reserve(state.procs.size());
+  for (uint32_t n = 0; n < state.procs.size(); n++)
+    numbers.push_back({state.procs[n], n});
+  std::sort(numbers.begin(), numbers.end());
+  std::sort(state.calls.begin(), state.calls.end());
+  std::vector<std::pair<uint32_t, uint32_t>> edges;
+  edges.reserve(state.calls.size());
+  auto proc = numbers.begin();
+  for (const auto &[callee, caller] : state.calls) {
+    while (proc != numbers.end() && proc->first < callee)
+      ++proc;
+    if (proc != numbers.end() && proc->first == callee)
+      edges.push_back({caller, proc->second});
+  }
+  return edges;
+}
+
 // Removes the first dead mark of sym; the annotation object is not freed, as
 // others may still hold it.
 void remove_dead_mark(sym_node *sym) {
@@ -104,14 +119,14 @@ void compute_used_symbols(file_set_entry *fse) {
   k_dead_proc = register_annote(new annote_def("dead_proc", false));
   walk_state state;
   walk = &state;
-  state.ids.reserve(fse->procs().size() * 2);
 
   fse->reset_proc_iter();
   while (proc_sym *proc = fse->next_proc()) {
     proc->append_annote(k_dead_proc);
     proc->read_proc(true, false);
     if (tree_proc *body = proc->block()) {
-      state.caller = state.id_of(proc);
+      state.caller = static_cast<uint32_t>(state.procs.size());
+      state.procs.push_back(proc);
       body->map(visit_node, nullptr, true, true);
       mark_referred_symbols(state.referred);
     }
@@ -119,7 +134,8 @@ void compute_used_symbols(file_set_entry *fse) {
   }
 
   if (!flag_all_procs_used) {
-    std::vector<bool> called = procs_called_from_outside(static_cast<uint32_t>(state.procs.size()), state.calls);
+    std::vector<bool> called =
+        procs_called_from_outside(static_cast<uint32_t>(state.procs.size()), numbered_calls(state));
     for (uint32_t n = 0; n < state.procs.size(); n++)
       if (called[n])
         remove_dead_mark(state.procs[n]);
