@@ -23,7 +23,6 @@
 namespace {
 
 clang::ASTContext *ctx = nullptr;
-proc_sym *cur_proc = nullptr;
 proc_symtab *proc_table = nullptr;
 block_symtab *scope = nullptr;
 tree_node_list *cur_out = nullptr;  // where statements inside expressions go
@@ -442,7 +441,6 @@ void lower_stmt(const clang::Stmt *s, tree_node_list *out) {
 
 void build_body(proc_sym *p, const clang::FunctionDecl *fd, clang::ASTContext &c) {
     ctx = &c;
-    cur_proc = p;
     locals.clear();
     labels.clear();
     block_count = 0;
