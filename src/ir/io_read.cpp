@@ -1046,19 +1046,31 @@ bool reader::read_list(tree_node_list *l, std::string_view *stop) {
 
 bool ir_read_body(proc_sym *p, std::string *error) {
     file_set_entry *fse = p->file();
-    if (!fse || !fse->io || !fse->io->in || p->body_offset < 0) {
+    // A body written since it was read comes back from the spool, so that a
+    // later pass sees the changes of an earlier one.
+    bool from_spool = fse && fse->io && fse->io->spool && p->spool_index >= 0 &&
+                      (size_t)p->spool_index < fse->io->bodies.size();
+    if (!from_spool && (!fse || !fse->io || !fse->io->in || p->body_offset < 0)) {
         *error = std::string(fse && fse->in_name() ? fse->in_name() : "<memory>") + ":0: procedure " + p->name() +
                  " has no body to read";
         return false;
     }
     reader r;
-    r.path = fse->in_name();
+    r.path = from_spool ? fse->out_name() : fse->in_name();
     r.error = error;
     r.fse = fse;
-    r.in = fse->io->in;
-    if (fseek(r.in, p->body_offset, SEEK_SET) != 0) return r.fail("cannot seek to the body");
-    r.pos = p->body_offset;
+    long offset = p->body_offset;
     r.line_no = p->body_line - 1;
+    if (from_spool) {
+        r.in = fse->io->spool;
+        offset = fse->io->bodies[(size_t)p->spool_index].offset;
+        r.line_no = 0;
+        fse->io->spool_read = true;
+    } else {
+        r.in = fse->io->in;
+    }
+    if (fseek(r.in, offset, SEEK_SET) != 0) return r.fail("cannot seek to the body");
+    r.pos = offset;
     if (!r.next_line() || r.tok[0] != "body") return r.fail("body expected");
     if (!r.next_line() || r.tok[0] != "proc" || !r.want(1)) return r.fail("a body must start with proc");
     tree_proc *tp = new tree_proc(new tree_node_list, nullptr);
@@ -1093,7 +1105,7 @@ bool ir_read_body(proc_sym *p, std::string *error) {
 }
 
 void proc_sym::read_proc(bool, bool) {
-    if (body || body_offset < 0) return;
+    if (body || (body_offset < 0 && spool_index < 0)) return;
     std::string error;
     if (!ir_read_body(this, &error)) {
         fprintf(stderr, "%s\n", error.c_str());

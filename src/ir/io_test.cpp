@@ -426,3 +426,30 @@ TEST_F(io, an_output_that_cannot_be_written_is_reported_and_absent) {
         ::testing::ExitedWithCode(1), "no_such_dir/out.ir:0: cannot write: No such file or directory");
     EXPECT_FALSE(file_exists(out));
 }
+
+TEST_F(io, a_body_read_again_after_writing_has_the_changes) {
+    std::string a = path("a.ir"), b = path("b.ir");
+    {
+        program_builder pb(a.c_str());
+        pb.defined_proc("f", pb.func(type_void, {}));
+    }
+    restart();
+    file_set_entry *fse = fileset->add_file(a.c_str(), b.c_str());
+    proc_sym *f = global_st->lookup_proc("f");
+    f->read_proc(true, false);
+    f->block()->body()->push(new tree_instr(new in_rrr(io_mrk)));
+    f->write_proc(fse);
+    f->flush_proc();
+    f->read_proc(true, false);
+    ASSERT_NE(f->block(), nullptr);
+    EXPECT_EQ(f->block()->body()->count(), 2);
+    // A second pass writes again; the file holds that last text.
+    f->block()->body()->push(new tree_instr(new in_rrr(io_nop)));
+    f->write_proc(fse);
+    f->flush_proc();
+    restart();
+    fileset->add_file(b.c_str(), nullptr);
+    f = global_st->lookup_proc("f");
+    f->read_proc(true, false);
+    EXPECT_EQ(f->block()->body()->count(), 3);
+}
