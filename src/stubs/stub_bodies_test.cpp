@@ -211,3 +211,14 @@ TEST_F(stub_bodies_test, a_pure_stub_with_return_ranges_is_not_polymorphic)
   EXPECT_NE(std::find(text.begin(), text.end(), "__QVT__SINT32 random_for_return = real_random_for_return;\n"),
             text.end());
 }
+
+TEST_F(stub_bodies_test, a_stub_without_instrumentation_keeps_only_comments_varargs_and_return)
+{
+  proc_sym *f = b->extern_proc("ni", b->func(type_void, {type_signed, b->ptr(type_signed)}, true));
+  name_types();
+  strings text = pieces_of(make_stub(f, STUB_NO_INSTRUMENT, false));
+  ASSERT_GE(text.size(), 9u);
+  EXPECT_EQ(text[5], "/* parameter 0 is constant */\n\n");
+  EXPECT_EQ(text[6], "/* varargs access */\n");
+  EXPECT_EQ(strings(text.end() - 2, text.end()), (strings{"return;\n", "}\n\n"}));
+}
