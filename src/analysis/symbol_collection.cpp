@@ -12,15 +12,24 @@
 #include "driver/global_lists.h"
 #include "driver/options.h"
 
+#include <cstdarg>
 #include <cstdio>
+#include <cstdlib>
 #include <cstring>
 #include <memory>
 
 namespace {
 
 // The error of this pass: the message, then the status; the pass goes on.
-void report_error(const char *format, const char *name) {
-  error_line(0, nullptr, format, name);
+__attribute__((format(printf, 1, 2))) void report_error(const char *format, ...) {
+  va_list args;
+  va_start(args, format);
+  char *text = nullptr;
+  if (vasprintf(&text, format, args) < 0)
+    text = nullptr;
+  va_end(args);
+  error_line(0, nullptr, "%s", text ? text : format);
+  free(text);
   exit_status = 1;
 }
 
