@@ -16,6 +16,7 @@
 #include "types/type_emitter.h"
 
 #include <cstring>
+#include <vector>
 
 #include "driver/options.h"
 #include "driver/output_files.h"
@@ -71,6 +72,21 @@ static const char *tagged_name(const char *keyword, const char *tag, type_node *
 }
 
 static void define_into(type_node *t, bool forward_only, string_list *out);
+
+// The structs and unions whose fields are being visited. A function type met inside such a
+// struct may take it by value before anything has named its tag at file scope; a tag named
+// for the first time in a parameter list would belong to that list alone in C, so the tag is
+// declared first ("struct s;"; declaring it again is harmless).
+static std::vector<type_node *> bodies_in_progress;
+
+static void declare_tag_if_in_progress(type_node *t, string_list *out) {
+  if (t->op() != TYPE_STRUCT && t->op() != TYPE_UNION) return;
+  for (type_node *b : bodies_in_progress)
+    if (b == t) {
+      out->append(bufprintf("%s;\n", get_type_name(t)));
+      return;
+    }
+}
 
 static void define_integer(base_type *t, string_list *out) {
   const char *sign = t->is_signed() ? "signed" : "unsigned";
@@ -162,6 +178,7 @@ static void define_function(func_type *t, string_list *out) {
   const char *name = numbered_name(t);
   set_type_name(t, name);
   define_into(t->return_type(), false, out);
+  declare_tag_if_in_progress(t->return_type(), out);
   const char *ret = get_type_name(t->return_type());
   bool complete = ret != nullptr;
   const char *params = "";
@@ -175,6 +192,7 @@ static void define_function(func_type *t, string_list *out) {
       for (unsigned i = 0; i < visible; i++) {
         type_node *p = t->arg_type(i);
         define_into(p, false, out);
+        declare_tag_if_in_progress(p, out);
         const char *pname = get_type_name(p);
         if (!pname) complete = false;
         params = bufprintf("%s%s%s", params, pname ? pname : "", i + 1 < visible ? ", " : "");
@@ -205,7 +223,9 @@ static void define_struct(struct_type *t, bool forward_only, string_list *out) {
   if (forward_only) return;
   mark_defined(t);
   unsigned n = t->num_fields();
+  bodies_in_progress.push_back(t);
   for (unsigned i = 0; i < n; i++) define_into(field_storage_type(t, i), false, out);
+  bodies_in_progress.pop_back();
   int pack = 0;
   if (annote *a = t->peek_annote(k_max_align))
     if (a->immeds() && !a->immeds()->is_empty() && a->immeds()->head()->contents.is_integer())
