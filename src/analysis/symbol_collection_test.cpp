@@ -147,14 +147,14 @@ TEST_F(Collection, TemporalFileNamesMustBeTasks) {
   proc_sym *task = b->defined_proc("task_a", b->func(type_void, {}));
   b->annotate(task, k_is_a_task);
   b->defined_proc("plain", b->func(type_void, {}));
-  char path[] = "/tmp/qvt_temporal_XXXXXX";
-  int fd = mkstemp(path);
+  std::string path = testing::TempDir() + "qvt_temporal_XXXXXX";
+  int fd = mkstemp(path.data());
   ASSERT_GE(fd, 0);
   FILE *f = fdopen(fd, "w");
   fputs("task_a plain\r\n\tghost\n", f); // a tab is part of a name
   fclose(f);
-  std::string err = collect(nullptr, nullptr, path);
-  remove(path);
+  std::string err = collect(nullptr, nullptr, path.c_str());
+  remove(path.c_str());
   EXPECT_EQ(err, "error: Verifier found an error in parameter -temporal-exclusions: module \"plain\" must be a "
                  "task\n"
                  "error: Verifier found an error in parameter -temporal-exclusions: module \"\tghost\" must be "

@@ -17,8 +17,8 @@ namespace {
 class StubMode : public testing::Test {
 protected:
   void SetUp() override {
-    char templ[] = "/tmp/qvt_stub_mode_XXXXXX";
-    ASSERT_NE(mkdtemp(templ), nullptr);
+    std::string templ = testing::TempDir() + "qvt_stub_mode_XXXXXX";
+    ASSERT_NE(mkdtemp(templ.data()), nullptr);
     dir = templ;
     int argc = 1;
     char name[] = "run_modes_test";

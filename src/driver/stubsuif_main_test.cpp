@@ -23,8 +23,8 @@ bool exists(const std::string &path) {
 class EntryPoint : public testing::Test {
 protected:
   void SetUp() override {
-    char templ[] = "/tmp/qvt_entry_XXXXXX";
-    ASSERT_NE(mkdtemp(templ), nullptr);
+    std::string templ = testing::TempDir() + "qvt_entry_XXXXXX";
+    ASSERT_NE(mkdtemp(templ.data()), nullptr);
     dir = templ;
     exit_status = 0;
   }
