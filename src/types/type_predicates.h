@@ -49,8 +49,8 @@ struct subrange {
 };
 typedef std::vector<subrange *> subrange_list;
 
-// The range marks ("k_drs") of a procedure or variable whose name is key (exact) or begins with key at an element
-// boundary (key_prefix_matches), in mark order; null when none matches.
+// The range marks ("k_drs") of a procedure or variable whose name is key (exact) or begins
+// with key at an element boundary (key_prefix_matches), in mark order; null when none matches.
 subrange_list *drs_subranges_of(sym_node *sym, const char *key, bool exact);
 bool key_prefix_matches(const char *key, const char *name);
 // The pointer kind of a mark's code: 1 single, 2 none, 3 multi certain write, 4 single certain
