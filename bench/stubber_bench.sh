@@ -37,18 +37,26 @@ make_program() {
 
 # measure LABEL CMD...: prints "LABEL wall_s cpu_s peak_MB" and sets $cpu.
 # Ratios and per-symbol figures use CPU time (user + system), which other
-# work on a shared machine disturbs less than wall time.
+# work on a shared machine disturbs less than wall time. Small programs run
+# $reps times (figures per run) so that the clock's 10 ms resolution doesn't
+# decide them; every run starts from an empty stubs directory, since the
+# generated files are opened for appending.
 measure() {
-  local label=$1 wall user sys peak; shift
-  # Status 1 only says that the program had problems to diagnose (the
-  # generated programs have functions without prototype); anything else fails.
-  local status=0
-  /usr/bin/time -f "%e %U %S %M" -o "$work/time" "$@" >/dev/null 2>"$work/stderr" || status=$?
-  if [ "$status" -gt 1 ] || [ ! -s "$work/time" ]; then
-    echo "stubber_bench: '$label' failed with status $status:" >&2; tail -5 "$work/stderr" >&2; exit 1
-  fi
-  read -r wall user sys peak < <(tail -n 1 "$work/time")
-  cpu=$(awk -v u="$user" -v s="$sys" 'BEGIN { printf "%.2f", u + s }')
+  local label=$1 wall user sys peak r; shift
+  : >"$work/times"
+  for ((r = 0; r < reps; r++)); do
+    rm -rf "$work/stubs" && mkdir "$work/stubs"
+    # Status 1 only says that the program had problems to diagnose (the
+    # generated programs have functions without prototype); anything else fails.
+    local status=0
+    /usr/bin/time -f "%e %U %S %M" -o "$work/time" "$@" >/dev/null 2>"$work/stderr" || status=$?
+    if [ "$status" -gt 1 ] || [ ! -s "$work/time" ]; then
+      echo "stubber_bench: '$label' failed with status $status:" >&2; tail -5 "$work/stderr" >&2; exit 1
+    fi
+    tail -n 1 "$work/time" >>"$work/times"
+  done
+  read -r wall cpu peak < <(awk '{ w += $1; c += $2 + $3; if ($4 > p) p = $4 }
+    END { printf "%.3f %.3f %d\n", w / NR, c / NR, p }' "$work/times")
   printf '  %-18s wall %7.2f s  cpu %7.2f s  peak %6d MB' "$label" "$wall" "$cpu" $((peak / 1024))
 }
 
@@ -59,11 +67,11 @@ echo "stubber benchmark, $(nproc) cores, $(date -u '+%Y-%m-%d %H:%M UTC')"
 for n in $sizes; do
   make_program "$n" "$work/p.ir"
   symbols=$n
-  echo "$n symbols ($(du -h "$work/p.ir" | cut -f1) of IR)"
+  reps=$(( n >= 300000 ? 1 : (300000 + n - 1) / n ))
+  echo "$n symbols ($(du -h "$work/p.ir" | cut -f1) of IR, $reps runs of each)"
   measure "IR round trip" "$stubber" -cpp-drs-gen "$work/p.ir" "$work/rt.ir"
   rt=$cpu
   printf '  %6s us/symbol\n' "$(per_symbol "$cpu" "$symbols")"
-  rm -rf "$work/stubs" && mkdir "$work/stubs"
   measure "-stubber" "$stubber" -stubber -stubs-dir "$work/stubs" "$work/p.ir" "$work/out.ir"
   printf '  %6s us/symbol  %sx round trip\n' "$(per_symbol "$cpu" "$symbols")" "$(ratio "$cpu" "$rt")"
   measure "-unknown-symbols" "$stubber" -unknown-symbols "$work/p.ir" "$work/symbols.h"
