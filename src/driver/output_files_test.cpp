@@ -51,8 +51,8 @@ class output_files_test : public ir_test {
 protected:
   void SetUp() override {
     ir_test::SetUp();
-    char tmpl[] = "/tmp/qvt_output_files_XXXXXX";
-    dir = mkdtemp(tmpl);
+    std::string tmpl = ::testing::TempDir() + "qvt_output_files_XXXXXX";
+    dir = mkdtemp(tmpl.data());
     stubs_dir = const_cast<char *>(dir.c_str());
     saved_instrum = flag_instrum;
     flag_instrum = false;

@@ -53,8 +53,8 @@ protected:
   void SetUp() override {
     ir_test::SetUp();
     for (auto &seen : fundamental_type_seen) seen = 0;
-    char tmpl[] = "/tmp/qvt_symbol_header_XXXXXX";
-    dir = mkdtemp(tmpl);
+    std::string tmpl = ::testing::TempDir() + "qvt_symbol_header_XXXXXX";
+    dir = mkdtemp(tmpl.data());
     path = dir + "/h.h";
     exit_status = 0;
     flag_flaw_scan = false;
