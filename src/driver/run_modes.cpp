@@ -38,8 +38,8 @@ void run_stub_mode(const run_args &args) {
   write_stub_types_header();
 
   // Generated C files: stubs (or one prologue-only stub file with -no-stubs),
-  // the entry point, the user stub skeleton, the main, and the init files of
-  // extern and ranged variables.
+  // the entry point and the user stub skeleton. The generated main and the
+  // init files of extern and ranged variables are not made yet.
   if (flag_no_stubs) {
     string_list *none = new string_list;
     write_stub_file(none);
