@@ -25,9 +25,6 @@ struct field_desc {
     int bit_width = 0;  // not 0 for a bit-field
 };
 
-// Older name of field_desc, still used by a test elsewhere in the tree.
-using field_spec = field_desc;
-
 struct enum_member_desc {
     const char *name;
     long long value;

@@ -73,56 +73,41 @@ int literal_param_is_const(type_node *type) {
 
 class type_predicates_test : public ir_test {};
 
-TEST_F(type_predicates_test, constness_of_pointers) {
-  EXPECT_TRUE(is_const_param(b->ptr(b->const_of(type_char))));
-  EXPECT_FALSE(is_const_param(b->const_of(b->ptr(type_char))));
-  EXPECT_FALSE(is_const_param(b->ptr(type_char)));
-  EXPECT_TRUE(is_const_param(type_signed));
-  EXPECT_FALSE(is_const_param(b->ptr(b->func(type_void, {}))));
-  // Only a const on the outside counts: volatile hides the const below it.
-  EXPECT_TRUE(is_const_param(b->ptr(b->const_of(b->volatile_of(type_signed)))));
-  EXPECT_FALSE(is_const_param(b->ptr(b->volatile_of(b->const_of(type_signed)))));
-  EXPECT_TRUE(is_const_param(b->ptr(b->array(b->const_of(type_signed), 4))));
-  EXPECT_FALSE(is_const_param(b->ptr(b->array(type_signed, 4))));
-}
-
-TEST_F(type_predicates_test, constness_of_structs) {
+TEST_F(type_predicates_test, constness_of_hand_made_shapes) {
   struct_type *ints = b->struct_of("ints", {{"a", type_signed}, {"b", type_double}});
   struct_type *holds_ptr = b->struct_of("holds", {{"a", type_signed}, {"p", b->ptr(type_char)}});
-  struct_type *empty = b->struct_of("empty", {});
-  EXPECT_TRUE(is_const_param(ints));
-  EXPECT_FALSE(is_const_param(holds_ptr));
-  EXPECT_TRUE(is_const_param(empty));
-  EXPECT_EQ(target_is_const(empty), 1);
-  EXPECT_EQ(param_type_is_const(empty), 1);
-  EXPECT_TRUE(is_const_param(b->ptr(b->const_of(ints))));
-  EXPECT_FALSE(is_const_param(b->ptr(ints)));
-}
-
-TEST_F(type_predicates_test, cycles_end_on_the_type_under_examination) {
   // struct s { struct s *next; }: writable through next.
   struct_type *s = b->struct_of("s", {{"next", type_signed}});
   ptr_type *ps = b->ptr(s);
   s->set_field_type(0, ps);
-  EXPECT_FALSE(is_const_param(ps));
-  EXPECT_FALSE(is_const_param(s));
   // struct c { const struct c *next; } behind a pointer to const: constant all along.
   struct_type *c = b->struct_of("c", {{"next", type_signed}});
   ptr_type *pcc = b->ptr(b->const_of(c));
   c->set_field_type(0, pcc);
-  EXPECT_TRUE(is_const_param(pcc));
-  EXPECT_EQ(literal_param_is_const(pcc), 1);
-}
-
-TEST_F(type_predicates_test, answer_is_cached_on_the_parameter_type) {
-  ptr_type *p = b->ptr(b->const_of(type_char));
-  EXPECT_TRUE(is_const_param(p));
-  annote *a = p->peek_annote(k_const_param_type);
-  ASSERT_NE(a, nullptr);
-  EXPECT_EQ(a->immeds()->head()->contents.integer(), 1);
-  // The cached answer is what is read back, whatever the type says.
-  a->immeds()->head()->contents = immed(0);
-  EXPECT_FALSE(is_const_param(p));
+  const std::pair<type_node *, bool> cases[] = {
+      {b->ptr(b->const_of(type_char)), true},
+      {b->const_of(b->ptr(type_char)), false},
+      {b->ptr(type_char), false},
+      {type_signed, true},
+      {b->ptr(b->func(type_void, {})), false},
+      // Only a const on the outside counts: volatile hides the const below it.
+      {b->ptr(b->const_of(b->volatile_of(type_signed))), true},
+      {b->ptr(b->volatile_of(b->const_of(type_signed))), false},
+      {b->ptr(b->array(b->const_of(type_signed), 4)), true},
+      {b->ptr(b->array(type_signed, 4)), false},
+      {ints, true},
+      {holds_ptr, false},
+      {b->struct_of("empty", {}), true},
+      {b->ptr(b->const_of(ints)), true},
+      {b->ptr(ints), false},
+      {ps, false},
+      {s, false},
+      {pcc, true},
+  };
+  for (auto &[type, want] : cases) {
+    EXPECT_EQ(is_const_param(type), want) << type->type_id();
+    EXPECT_EQ(literal_param_is_const(type->unqual()) != 0, want) << type->type_id();
+  }
 }
 
 // Random type graphs: structs and unions that point to each other (cycles), hold each other by
@@ -154,7 +139,6 @@ struct graph_maker {
   void make(int n) {
     for (int i = 0; i < n; i++) {
       int fields = pick(4);
-      std::vector<field_spec> none;
       struct_type *s = pick(4) == 0 ? b->union_of("u", {}) : b->struct_of("s", {});
       s->set_num_fields(fields);
       for (int f = 0; f < fields; f++) {
@@ -224,39 +208,21 @@ TEST_F(type_predicates_test, pointer_shapes) {
   EXPECT_EQ(pointer_to_function(b->ptr(type_void)), nullptr);
 }
 
-TEST_F(type_predicates_test, join_strings) {
-  string_list l;
-  char *empty = join_strings(&l);
-  EXPECT_STREQ(empty, "");
-  l.append("a, ");
-  l.append("");
-  l.append("b");
-  char *joined = join_strings(&l);
-  EXPECT_STREQ(joined, "a, b");
-  delete[] empty;
-  delete[] joined;
-}
-
 TEST_F(type_predicates_test, split_path_head) {
+  const struct {
+    const char *path, *head, *rest;
+  } cases[] = {
+      {"file.c:var.field", "file.c:var", "field"}, {"v.f.g", "v", "f.g"}, {"p*", "p", "*"},
+      {"*x.y", "*x", "y"}, {"a:b*c", "a:b", "*c"}, {"f.#1*", "f", "#1*"},
+      {"x", "x", nullptr}, {"*", "*", nullptr},
+  };
+  for (auto &c : cases) {
+    const char *rest = "untouched";
+    EXPECT_STREQ(split_path_head(c.path, &rest), c.head) << c.path;
+    EXPECT_STREQ(rest, c.rest) << c.path;
+  }
   const char *rest = "untouched";
   EXPECT_EQ(split_path_head(nullptr, &rest), nullptr);
-  EXPECT_EQ(rest, nullptr);
-  EXPECT_STREQ(split_path_head("file.c:var.field", &rest), "file.c:var");
-  EXPECT_STREQ(rest, "field");
-  EXPECT_STREQ(split_path_head("v.f.g", &rest), "v");
-  EXPECT_STREQ(rest, "f.g");
-  EXPECT_STREQ(split_path_head("p*", &rest), "p");
-  EXPECT_STREQ(rest, "*");
-  EXPECT_STREQ(split_path_head("*x.y", &rest), "*x");
-  EXPECT_STREQ(rest, "y");
-  EXPECT_STREQ(split_path_head("a:b*c", &rest), "a:b");
-  EXPECT_STREQ(rest, "*c");
-  EXPECT_STREQ(split_path_head("f.#1*", &rest), "f");
-  EXPECT_STREQ(rest, "#1*");
-  const char *whole = "x";
-  EXPECT_EQ(split_path_head(whole, &rest), whole);
-  EXPECT_EQ(rest, nullptr);
-  EXPECT_STREQ(split_path_head("*", &rest), "*");
   EXPECT_EQ(rest, nullptr);
   EXPECT_STREQ(split_path_head("a.b", nullptr), "a");
 }
@@ -277,29 +243,18 @@ TEST_F(type_predicates_test, find_field_through_anonymous_members) {
 }
 
 TEST_F(type_predicates_test, key_prefix_matches_at_element_boundaries) {
-  EXPECT_TRUE(key_prefix_matches("f.#1", "f.#1"));
-  EXPECT_TRUE(key_prefix_matches("f.#1", "f.#1.x"));
-  EXPECT_TRUE(key_prefix_matches("f.#1", "f.#1*"));
-  EXPECT_FALSE(key_prefix_matches("f.#1", "f.#10"));
-  EXPECT_FALSE(key_prefix_matches("f", "fa"));
-  EXPECT_TRUE(key_prefix_matches("f", "f:x"));
-  EXPECT_TRUE(key_prefix_matches("f", "fA"));
-  EXPECT_TRUE(key_prefix_matches("f", "fY"));
-  EXPECT_FALSE(key_prefix_matches("f", "fZ"));
-  EXPECT_FALSE(key_prefix_matches("f", "f_"));
-  EXPECT_TRUE(key_prefix_matches("f", "f\xc3\xa9"));
-  EXPECT_FALSE(key_prefix_matches("g", "f"));
-  EXPECT_FALSE(key_prefix_matches(nullptr, "f"));
-  EXPECT_FALSE(key_prefix_matches("f", nullptr));
-}
-
-TEST_F(type_predicates_test, pointer_kind_codes) {
-  EXPECT_EQ(pointer_kind_from_annote(0), DRS_PTR_MULTI);
-  EXPECT_EQ(pointer_kind_from_annote(1), DRS_PTR_SINGLE);
-  EXPECT_EQ(pointer_kind_from_annote(2), DRS_PTR_NONE);
-  EXPECT_EQ(pointer_kind_from_annote(3), DRS_PTR_MULTI_CERTAIN_WRITE);
-  EXPECT_EQ(pointer_kind_from_annote(4), DRS_PTR_SINGLE_CERTAIN_WRITE);
-  EXPECT_EQ(pointer_kind_from_annote(5), DRS_PTR_MULTI);
+  const struct {
+    const char *prefix, *key;
+    bool want;
+  } cases[] = {
+      {"f.#1", "f.#1", true}, {"f.#1", "f.#1.x", true}, {"f.#1", "f.#1*", true}, {"f.#1", "f.#10", false},
+      {"f", "fa", false},     {"f", "f:x", true},       {"f", "fA", true},       {"f", "fY", true},
+      {"f", "fZ", false},     {"f", "f_", false},       {"f", "f\xc3\xa9", true}, {"g", "f", false},
+      {nullptr, "f", false},  {"f", nullptr, false},
+  };
+  for (auto &c : cases)
+    EXPECT_EQ(key_prefix_matches(c.prefix, c.key), c.want) << (c.prefix ? c.prefix : "null") << " / "
+                                                           << (c.key ? c.key : "null");
 }
 
 TEST_F(type_predicates_test, subranges_of_a_procedure) {
