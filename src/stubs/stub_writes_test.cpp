@@ -1,5 +1,5 @@
-// Stub writes: the clean walk over types, the random variables, calls through known signatures
-// and the per-file stubs of function pointers.
+// Stub writes: the clean walk where it can loop or write too much, calls through known
+// signatures and the per-file stubs of function pointers.
 #include "stubs/stub_writes.h"
 
 #include "stubs/stub_test_util.h"
@@ -22,17 +22,6 @@ TEST_F(stub_writes_test, clean_write_follows_a_linked_struct_once)
   EXPECT_EQ(pieces_of(clean_write("P_0", link, true)).size(), 2u);
 }
 
-TEST_F(stub_writes_test, clean_write_of_a_void_pointer_writes_the_pointer_and_a_byte)
-{
-  ptr_type *void_ptr = b->ptr(type_void);
-  struct_type *holder = b->struct_of("holder", {{"p", void_ptr}});
-  ptr_type *arg = b->ptr(holder);
-  name_types();
-  EXPECT_EQ(pieces_of(clean_write("P_0", arg, true)),
-            (strings{"P_0[qvt_random_int].p = " + rnd(void_ptr) + ";\n",
-                     "((__QVT__CHAR *)P_0[qvt_random_int].p)[qvt_random_int] = " + rnd(type_char) + ";\n"}));
-}
-
 TEST_F(stub_writes_test, clean_write_leaves_const_memory_alone)
 {
   ptr_type *to_const = b->ptr(b->const_of(type_signed));
@@ -50,38 +39,6 @@ TEST_F(stub_writes_test, clean_write_skips_fillers_and_writes_bit_fields_plainly
             (strings{"P_0[qvt_random_int].low = " + rnd(flags->field_type(0)) + ";\n"}));
 }
 
-TEST_F(stub_writes_test, clean_write_of_arrays_indexes_every_element_at_once)
-{
-  array_type *row = b->array(type_signed_short, 4);
-  ptr_type *arg = b->ptr(row);
-  name_types();
-  EXPECT_EQ(pieces_of(clean_write("P_0", arg, true)),
-            (strings{"P_0[qvt_random_int][qvt_random_int] = " + rnd(type_signed_short) + ";\n"}));
-  // Top level: the parameter's own copy of a scalar isn't written.
-  EXPECT_TRUE(pieces_of(clean_write("P_1", type_signed, true)).empty());
-}
-
-TEST_F(stub_writes_test, clean_write_calls_a_function_pointer)
-{
-  func_type *callback = b->func(type_void, {type_signed});
-  ptr_type *arg = b->ptr(callback);
-  name_types();
-  EXPECT_EQ(pieces_of(clean_write("P_0", arg, true)),
-            (strings{"if (qvt_random_int && P_0 != 0)\n", "{ /* call of function P_0 */\n",
-                     "volatile __QVT__SINT32 __ARG__0;\n", "\n", "P_0(__ARG__0);\n", "}\n"}));
-}
-
-TEST_F(stub_writes_test, random_var_for_enters_each_type_once)
-{
-  name_types();
-  EXPECT_EQ(std::string(random_var_for(type_signed)), rnd(type_signed));
-  random_var_for(type_double);
-  random_var_for(type_signed);
-  ASSERT_EQ(random_type_list->count(), 2);
-  EXPECT_EQ((*random_type_list)[0], type_signed);
-  EXPECT_EQ((*random_type_list)[1], type_double);
-}
-
 TEST_F(stub_writes_test, call_of_a_declared_function_has_its_prototype_and_volatile_arguments)
 {
   ptr_type *text = b->ptr(type_char);
@@ -93,17 +50,12 @@ TEST_F(stub_writes_test, call_of_a_declared_function_has_its_prototype_and_volat
                      "g(__ARG__0, __ARG__1);\n", "}\n"}));
 }
 
-TEST_F(stub_writes_test, call_of_a_task_never_returns_and_a_variadic_call_passes_the_hidden_arguments)
+TEST_F(stub_writes_test, a_variadic_call_passes_the_hidden_arguments)
 {
-  proc_sym *t = b->extern_proc("t", b->func(type_void, {}));
-  b->annotate(t, k_is_a_task);
   ptr_type *text = b->ptr(type_char);
   func_type *printer = b->func(type_signed, {text}, true);
   proc_sym *v = b->extern_proc("v", printer);
   name_types();
-  EXPECT_EQ(pieces_of(call_function_text(t)),
-            (strings{"{ /* call of task t */\n", "__QVT__VOID t(__QVT__VOID);\n", "\n", "t();\n", "assert(0);\n",
-                     "}\n"}));
   EXPECT_EQ(pieces_of(call_function_text(v)),
             (strings{"{ /* call of function v */\n", "__QVT__SINT32 v(" + gname(text) + ", ... );\n",
                      "volatile " + gname(text) + " __ARG__0;\n", "volatile __QVT__SINT32 __ARG__1;\n",
