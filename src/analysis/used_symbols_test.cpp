@@ -35,45 +35,34 @@ protected:
   func_type *void_fn = nullptr;
 };
 
-TEST_F(UsedSymbols, NoCallsLeavesEveryProcedureDead) {
-  proc_sym *f = defined("f"), *g = defined("g");
-  compute_used_symbols(b->fse());
-  EXPECT_TRUE(is_dead_proc(f));
-  EXPECT_TRUE(is_dead_proc(g));
-  EXPECT_FALSE(is_used_symbol(f));
-}
-
-TEST_F(UsedSymbols, CalleeLosesMarkCallerKeepsIt) {
-  proc_sym *f = defined("f"), *g = defined("g");
-  b->add_call(f, g, {});
-  compute_used_symbols(b->fse());
-  EXPECT_TRUE(is_dead_proc(f));
-  EXPECT_FALSE(is_dead_proc(g));
-  EXPECT_TRUE(is_used_symbol(g));
-  EXPECT_FALSE(is_used_symbol(f));
-}
-
-TEST_F(UsedSymbols, CyclesStayDeadUntilCalledFromOutside) {
-  proc_sym *self = defined("self");
-  b->add_call(self, self, {});
-  proc_sym *f = defined("f"), *g = defined("g");
-  b->add_call(f, g, {});
-  b->add_call(g, f, {});
-  compute_used_symbols(b->fse());
-  EXPECT_TRUE(is_dead_proc(self));
-  EXPECT_TRUE(is_dead_proc(f));
-  EXPECT_TRUE(is_dead_proc(g));
-}
-
-TEST_F(UsedSymbols, CallerOfCycleMakesItLive) {
-  proc_sym *f = defined("f"), *g = defined("g"), *h = defined("h");
-  b->add_call(f, g, {});
-  b->add_call(g, f, {});
-  b->add_call(h, f, {});
-  compute_used_symbols(b->fse());
-  EXPECT_FALSE(is_dead_proc(f));
-  EXPECT_FALSE(is_dead_proc(g));
-  EXPECT_TRUE(is_dead_proc(h));
+// A procedure stays dead unless something outside its own cycle calls it.
+TEST_F(UsedSymbols, DeadMarksOnSmallCallGraphs) {
+  const struct {
+    const char *what;
+    std::vector<std::pair<int, int>> calls; // caller, callee among p0..p2
+    std::vector<bool> dead;
+  } cases[] = {
+      {"no calls", {}, {true, true, true}},
+      {"one call", {{0, 1}}, {true, false, true}},
+      {"self call", {{0, 0}}, {true, true, true}},
+      {"a cycle alone", {{0, 1}, {1, 0}}, {true, true, true}},
+      {"a cycle called from outside", {{0, 1}, {1, 0}, {2, 0}}, {false, false, true}},
+  };
+  for (auto &c : cases) {
+    TearDown();
+    SetUp();
+    proc_sym *p[] = {defined("p0"), defined("p1"), defined("p2")};
+    for (auto [from, to] : c.calls)
+      b->add_call(p[from], p[to], {});
+    compute_used_symbols(b->fse());
+    for (int i = 0; i < 3; i++) {
+      bool called = false;
+      for (auto [from, to] : c.calls)
+        called |= to == i;
+      EXPECT_EQ(is_dead_proc(p[i]), c.dead[i]) << c.what << ", p" << i;
+      EXPECT_EQ(is_used_symbol(p[i]), called) << c.what << ", p" << i;
+    }
+  }
 }
 
 TEST_F(UsedSymbols, AddressTakenIsUsedAndStaysDead) {
