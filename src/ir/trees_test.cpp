@@ -148,26 +148,7 @@ TEST_F(trees, recursive_hidden_check_repairs_links_of_hand_built_expressions) {
     delete neg;
 }
 
-TEST_F(trees, calls_and_branches_carry_their_parts) {
-    proc_sym *f = global_st->new_proc(
-        static_cast<func_type *>(global_st->install_type(new func_type(type_void, 0u))), src_unknown, "f");
-    var_sym *a = global_st->new_var(type_signed, "a");
-    in_cal *c = new in_cal(type_void, operand(), operand(new in_ldc(f->type()->ptr_to(), operand(), immed(f, 0))), 2);
-    c->set_argument(1, operand(a));
-    EXPECT_EQ(c->num_args(), 2u);
-    EXPECT_TRUE(c->argument(0).is_null());
-    EXPECT_EQ(c->argument(1).symbol(), a);
-    EXPECT_EQ(static_cast<in_ldc *>(c->addr_op().instr())->value().symbol(), f);
-    delete c;
-    block_symtab blk("b");
-    label_sym *l = blk.new_unique_label("L");
-    in_bj j(io_jmp, l);
-    EXPECT_EQ(j.num_srcs(), 0u);
-    EXPECT_EQ(j.target(), l);
-    in_rrr mark(io_mrk);
-    EXPECT_EQ(mark.num_srcs(), 0u);
-    in_rrr ret(io_ret, type_signed, operand(), operand(a));
-    EXPECT_EQ(ret.num_srcs(), 1u);
+TEST_F(trees, opcode_names_both_ways) {
     EXPECT_STREQ(if_ops_name(io_sle), "sle");
     EXPECT_EQ(if_ops_from_name("btrue"), io_btrue);
     EXPECT_EQ(if_ops_from_name("nonsense"), io_error);

@@ -5,19 +5,6 @@
 
 using types = ir_test;
 
-TEST_F(types, predefined_types_follow_the_target) {
-    EXPECT_EQ(type_void->op(), TYPE_VOID);
-    EXPECT_EQ(type_ptr->size(), 64);
-    EXPECT_EQ(static_cast<ptr_type *>(type_ptr)->ref_type(), type_void);
-    EXPECT_EQ(type_char, type_signed_char);  // plain char is signed on the default target
-    EXPECT_EQ(type_unsigned_char->size(), 8);
-    EXPECT_EQ(type_signed_long->size(), 64);
-    EXPECT_EQ(type_longdouble->size(), 128);
-    EXPECT_EQ(type_ptr_diff->size(), type_ptr->size());
-    EXPECT_TRUE(non_negative(type_ptr_uint));
-    EXPECT_EQ(target.addressable_size, 8);
-}
-
 TEST_F(types, qualifiers_stack_and_strip) {
     program_builder b;
     type_node *cv = b.volatile_of(b.const_of(type_signed));
@@ -25,11 +12,7 @@ TEST_F(types, qualifiers_stack_and_strip) {
     EXPECT_TRUE(cv->is_volatile());
     EXPECT_EQ(cv->unqual(), type_signed);
     EXPECT_EQ(cv->size(), 32);
-    EXPECT_TRUE(cv->is_scalar());
     EXPECT_FALSE(b.ptr(cv)->is_const());  // the pointer itself isn't
-    EXPECT_FALSE(b.struct_of("s", {{"x", type_signed}})->is_scalar());
-    EXPECT_TRUE(b.enum_of("e", {{"A", 0}})->is_scalar());
-    EXPECT_TRUE(b.ptr(type_void)->is_scalar());
 }
 
 TEST_F(types, ptr_to_is_installed_where_its_referent_is) {
@@ -72,15 +55,12 @@ TEST_F(types, struct_layout_with_bitfields_and_padding) {
     EXPECT_EQ(s->field_offset(3), 128);
     EXPECT_EQ(s->size(), 192);
     EXPECT_EQ(s->field_storage_width(3), 0);
-    EXPECT_EQ(s->find_field_by_name("b"), 2);
-    EXPECT_EQ(s->find_field_by_name("zz"), -1);
     EXPECT_EQ(get_alignment(s), 64);
     b.annotate(s, k_max_align, {immed(1)});
     EXPECT_EQ(get_alignment(s), 8);
     struct_type *u = b.union_of("u", {{"c", type_char}, {"d", type_double}});
     EXPECT_EQ(u->size(), 64);
     EXPECT_EQ(u->field_offset(1), 0);
-    EXPECT_EQ(u->op(), TYPE_UNION);
 }
 
 TEST_F(types, function_types_and_their_hidden_parameters) {
@@ -114,8 +94,6 @@ TEST_F(types, annotated_types_are_not_shared_with_new_ones) {
 TEST_F(types, enums_keep_big_values_and_their_base) {
     program_builder b;
     enum_type *e = b.enum_of("e", {{"LOW", -2147483648LL}, {"HIGH", 2147483647}});
-    EXPECT_EQ(e->num_values(), 2u);
-    EXPECT_STREQ(e->member(0), "LOW");
     EXPECT_EQ(e->value(0).to_string(10), "-2147483648");
     EXPECT_EQ(base_from_enum(e), type_signed);
     EXPECT_EQ(base_from_enum(type_double), type_double);
