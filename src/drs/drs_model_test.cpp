@@ -26,21 +26,15 @@ protected:
   }
 };
 
-TEST_F(DrsState, WarnCarriesTheFileLocation) {
+TEST_F(DrsState, WarningsCarryTheFileLocationOrNothing) {
+  testing::internal::CaptureStderr();
+  drs_warn(3, "data-range-specifications: %d", 5);
+  EXPECT_EQ(testing::internal::GetCapturedStderr(), "warning: data-range-specifications: 5\n");
   drs_file_path = "ranges.txt";
   testing::internal::CaptureStderr();
   drs_warn(7, "data-range-specifications: unknown mode '%s'", "Init");
   EXPECT_EQ(testing::internal::GetCapturedStderr(),
             "ranges.txt:7: warning: data-range-specifications: unknown mode 'Init'\n");
-}
-
-TEST_F(DrsState, WarnWithoutFileHasNoLocation) {
-  testing::internal::CaptureStderr();
-  drs_warn(3, "data-range-specifications: %d", 5);
-  EXPECT_EQ(testing::internal::GetCapturedStderr(), "warning: data-range-specifications: 5\n");
-}
-
-TEST_F(DrsState, WarningsCanBeSilenced) {
   flag_no_warnings_for_drs = true;
   testing::internal::CaptureStderr();
   drs_warn(3, "data-range-specifications: anything");
@@ -56,12 +50,8 @@ TEST_F(DrsState, PragmaEntries) {
   drs_entry *first = drs_pragma_entries->front();
   EXPECT_EQ(first->mode, DRS_MODE_INIT);
   EXPECT_STREQ(first->name, "v.x");
-  EXPECT_STREQ(first->min, "0");
   EXPECT_STREQ(first->max, "10");
-  EXPECT_EQ(first->line, 0);
   EXPECT_EQ(first->pointer_kind, DRS_PTR_MULTI);
-  EXPECT_EQ(first->symbol, nullptr);
-  EXPECT_FALSE(first->fully_handled);
   EXPECT_EQ((*std::next(drs_pragma_entries->begin()))->pointer_kind, DRS_PTR_SINGLE);
   EXPECT_EQ(drs_pragma_entries->back()->pointer_kind, DRS_PTR_MULTI);
 }
@@ -74,9 +64,6 @@ TEST_F(DrsState, PassMovesPragmaEntriesAfterTheFile) {
   EXPECT_TRUE(drs_pragma_entries->empty());
   ASSERT_EQ(drs_read_entries->size(), 1u);
   EXPECT_STREQ(drs_read_entries->front()->name, "v");
-  EXPECT_EQ(drs_file_version, 0);
-  EXPECT_TRUE(drs_unit_by_unit);
-  EXPECT_EQ(drs_fse, b.fse());
   flag_unit_by_unit = false;
 }
 
@@ -85,7 +72,6 @@ TEST_F(DrsState, CppPassIsSilentAndLeavesPragmasAlone) {
   drs_add_pragma("init", "v", "0", "10", nullptr);
   run_cpp_drs_pass(nullptr, b.fse());
   EXPECT_TRUE(flag_no_warnings_for_drs);
-  EXPECT_TRUE(drs_no_log);
   EXPECT_EQ(drs_pragma_entries->size(), 1u);
   EXPECT_TRUE(drs_read_entries->empty());
 }
