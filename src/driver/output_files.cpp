@@ -8,6 +8,7 @@
 #include "driver/output_files.h"
 
 #include <cstring>
+#include <vector>
 
 #include "driver/options.h"
 #include "types/type_emitter.h"
@@ -108,19 +109,53 @@ static const char *register_mark(const char *name) {
   return register_annote(new annote_def(name, false));
 }
 
-// Deletes the per-file marks of t in one walk of its annotations: this runs over every global
-// type after each generated file, so it must not scan the list once per mark.
+static bool is_per_file_mark(const char *name) {
+  return name == k_init_proc_decl || name == k_fct_stub || name == k_fct_stub_pure || name == k_fct_stub_worst;
+}
+
+// Deletes the per-file marks of t in one walk of its annotations. Marks of other names keep
+// their order; which mark name goes first doesn't show in what remains.
 static void strip_per_file_marks(type_node *t) {
   annote_list *al = t->annotes_if_any();
   if (!al) return;
   for (annote_list_e *e = al->head(); e;) {
     annote_list_e *next = e->next();
-    const char *n = e->contents->name();
-    if (n == k_init_proc_decl || n == k_fct_stub || n == k_fct_stub_pure || n == k_fct_stub_worst) {
+    if (is_per_file_mark(e->contents->name())) {
       delete al->remove(e)->contents;
       delete e;
     }
     e = next;
+  }
+}
+
+// The global types that may carry a per-file mark, once per mark put (a type may stand here
+// more than once; stripping is idempotent). A run makes one stub file per 200 stubs, so
+// walking every global type after each file would cost files times types; the marks of a file
+// are few.
+static std::vector<type_node *> marked_types;
+
+static bool is_global_type(const type_node *t) {
+  return fileset && fileset->globals && t->parent() == fileset->globals;
+}
+
+void add_per_file_mark(type_node *t, const char *mark) {
+  t->append_annote(mark);
+  if (is_global_type(t)) marked_types.push_back(t);
+}
+
+// An input file may already carry marks of these names; the first reset remembers the global
+// types that do, so that the next one strips them like those marked here.
+static void remember_input_marks() {
+  marked_types.clear();
+  if (!fileset || !fileset->globals) return;
+  for (type_node_list_e *e = fileset->globals->types()->head(); e; e = e->next()) {
+    annote_list *al = e->contents->annotes_if_any();
+    if (!al) continue;
+    for (annote_list_e *a = al->head(); a; a = a->next())
+      if (is_per_file_mark(a->contents->name())) {
+        marked_types.push_back(e->contents);
+        break;
+      }
   }
 }
 
@@ -136,8 +171,13 @@ void reset_generation_state() {
     k_fct_stub_pure = register_mark("fct_stub_pure");
     k_fct_stub_worst = register_mark("fct_stub_worst");
     target_long_is_24_bits = type_signed_long->size() == 24;
-  } else if (fileset && fileset->globals) {
-    for (type_node_list_e *e = fileset->globals->types()->head(); e; e = e->next()) strip_per_file_marks(e->contents);
+    remember_input_marks();
+  } else {
+    // Types in a file's own table keep their marks; a type that left the global table since
+    // its mark is no longer one of the global types either.
+    for (type_node *t : marked_types)
+      if (is_global_type(t)) strip_per_file_marks(t);
+    marked_types.clear();
   }
   // The old lists are abandoned, not deleted: a caller may still hold one.
   init_proc_texts = new string_list;
@@ -148,6 +188,7 @@ void reset_generation_state() {
 }
 
 void forget_generation_marks() {
+  marked_types.clear(); // the types go with the run
   k_type_defined = k_type_name = k_init_proc = k_init_proc_decl = nullptr;
   k_already_init_sym = k_calling_proc = k_fct_stub = k_fct_stub_pure = k_fct_stub_worst = nullptr;
 }

@@ -55,6 +55,11 @@ string_list *build_prologue(const char *header_name);
 // target_long_is_24_bits, on later calls strips the per-file marks from the global types.
 void reset_generation_state();
 
+// Puts a per-file mark (k_init_proc_decl or one of the three function-stub marks) on t. Every
+// per-file mark goes through here: the reset visits only the global types remembered by this
+// call (and those that came marked with the input), never the whole table.
+void add_per_file_mark(type_node *t, const char *mark);
+
 // Forgets the registered marks, so that the next reset_generation_state() is a first call
 // again. The entry point calls it at every start of a run.
 void forget_generation_marks();

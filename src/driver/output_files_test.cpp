@@ -5,6 +5,8 @@
 #include <unistd.h>
 
 #include <cstdlib>
+#include <random>
+#include <vector>
 #include <fstream>
 #include <sstream>
 
@@ -125,11 +127,13 @@ TEST_F(output_files_test, reset_strips_per_file_marks_of_global_types_only) {
   struct_type *s = b->struct_of("s", {{"x", type_signed}});
   set_type_name(s, "struct s");
   s->append_annote(k_type_defined);
-  for (const char *k : {k_init_proc_decl, k_fct_stub, k_fct_stub_pure, k_fct_stub_worst, k_init_proc}) {
-    s->append_annote(k);
-    global_int->append_annote(k);
+  for (const char *k : {k_init_proc_decl, k_fct_stub, k_fct_stub_pure, k_fct_stub_worst}) {
+    add_per_file_mark(s, k);
+    add_per_file_mark(global_int, k);
   }
-  s->append_annote(k_fct_stub);
+  s->append_annote(k_init_proc);
+  global_int->append_annote(k_init_proc);
+  add_per_file_mark(s, k_fct_stub);
   reset_generation_state();
   for (type_node *t : {static_cast<type_node *>(s), global_int}) {
     EXPECT_EQ(t->peek_annote(k_init_proc_decl), nullptr);
@@ -140,6 +144,99 @@ TEST_F(output_files_test, reset_strips_per_file_marks_of_global_types_only) {
   }
   EXPECT_NE(s->peek_annote(k_type_defined), nullptr);
   EXPECT_STREQ(get_type_name(s), "struct s");
+}
+
+// The reset as first written: every type of the global table, each per-file mark name in turn,
+// every annotation of that name removed.
+void strip_by_walking_every_global_type() {
+  for (type_node_list_e *e = fileset->globals->types()->head(); e; e = e->next())
+    for (const char *k : {k_init_proc_decl, k_fct_stub, k_fct_stub_pure, k_fct_stub_worst})
+      while (annote *a = e->contents->get_annote(k)) delete a;
+}
+
+// The annotations of every type, in creation order, as "name:value" lines; a type's table
+// is part of the text.
+std::string annotations_of(const std::vector<type_node *> &types) {
+  std::string s;
+  for (type_node *t : types) {
+    s += t->parent() == fileset->globals ? "G" : "F";
+    if (annote_list *al = t->annotes_if_any())
+      for (annote_list_e *e = al->head(); e; e = e->next()) {
+        s += " ";
+        s += e->contents->name();
+        if (immed_list *l = e->contents->immeds()) s += ":" + std::to_string(l->head()->contents.integer());
+      }
+    s += "\n";
+  }
+  return s;
+}
+
+// One random program, files after files: random marks on random types of the global table
+// and of the file's own table, some arriving with the program before the first reset, some
+// global types moved to the file table on the way. Returns the annotations after each
+// file's reset, made by reset_generation_state() (fast) or by the walk above.
+std::vector<std::string> marks_after_each_file(program_builder *b, unsigned seed, bool fast) {
+  std::mt19937 rng(seed);
+  auto below = [&](unsigned n) { return (unsigned)(rng() % n); };
+  forget_generation_marks();
+  std::vector<type_node *> types = {type_signed, type_char, type_double};
+  unsigned globals = 2 + below(30), locals = below(10);
+  for (unsigned i = 0; i < globals; i++) {
+    std::string tag = "g" + std::to_string(i);
+    types.push_back(below(2) ? static_cast<type_node *>(b->struct_of(tag.c_str(), {{"x", type_signed}}))
+                             : b->func(type_signed, {b->ptr(types[below((unsigned)types.size())])}));
+  }
+  for (unsigned i = 0; i < locals; i++) {
+    std::string tag = "f" + std::to_string(i);
+    types.push_back(b->file_table()->install_type(new struct_type(TYPE_STRUCT, 0, tag.c_str(), 0)));
+  }
+  const char *names[] = {"init_proc_decl", "k_fct_stub", "fct_stub_pure", "fct_stub_worst",
+                         "type_defined",   "type_name",  "init_proc",     "other"};
+  int value = 0;
+  auto annotate = [&](type_node *t, const char *name) {
+    immed_list *l = new immed_list;
+    l->append(immed(value++));
+    t->append_annote(name, l);
+  };
+  for (unsigned n = below(20); n > 0; n--) annotate(types[below((unsigned)types.size())], names[below(8)]);
+  reset_generation_state(); // first of the run: registers the marks, strips nothing
+  std::vector<std::string> after;
+  for (unsigned file = 0, files = 1 + below(6); file < files; file++) {
+    for (unsigned n = below(40); n > 0; n--) {
+      type_node *t = types[below((unsigned)types.size())];
+      unsigned name = below(8);
+      if (name < 4) {
+        const char *marks[] = {k_init_proc_decl, k_fct_stub, k_fct_stub_pure, k_fct_stub_worst};
+        if (fast) add_per_file_mark(t, marks[name]);
+        else t->append_annote(marks[name]);
+      } else {
+        annotate(t, names[name]);
+      }
+    }
+    if (below(4) == 0) {
+      type_node *t = types[3 + below(globals)];
+      if (t->parent() == fileset->globals) {
+        fileset->globals->remove_type(t);
+        b->file_table()->add_type(t);
+      }
+    }
+    if (fast) reset_generation_state();
+    else strip_by_walking_every_global_type();
+    after.push_back(annotations_of(types));
+  }
+  return after;
+}
+
+TEST_F(output_files_test, reset_strips_the_same_marks_as_a_walk_over_every_global_type) {
+  for (unsigned seed = 1; seed <= 300; seed++) {
+    std::vector<std::string> fast = marks_after_each_file(b, seed, true);
+    ir_test::TearDown();
+    ir_test::SetUp();
+    std::vector<std::string> walked = marks_after_each_file(b, seed, false);
+    ir_test::TearDown();
+    ir_test::SetUp();
+    ASSERT_EQ(fast, walked) << "seed " << seed;
+  }
 }
 
 TEST_F(output_files_test, marks_are_registered_once_per_run) {

@@ -173,6 +173,6 @@ const char *stub_for_function_pointer(func_type *type, int requested_kind)
   proc_sym *stub = make_free_proc(type, name);
   move_pieces(fptr_stub_texts, make_stub(stub, kind, true));
   delete stub;
-  type->append_annote(mark);
+  add_per_file_mark(type, mark);
   return name;
 }
