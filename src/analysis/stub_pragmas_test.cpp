@@ -1,38 +1,29 @@
-// The pragma table: words, their order of precedence, and what is passed
-// over without a word.
+// The pragma table: a name a pragma, defined functions, and range pragmas.
 #include "analysis/stub_pragmas.h"
 #include "driver/options.h"
 #include "drs/drs_model.h"
-#include "ir/builder.h"
-
-#include <gtest/gtest.h>
+#include "types/ir_test_fixture.h"
 
 namespace {
 
-class Pragmas : public testing::Test {
+class Pragmas : public ir_test {
 protected:
   void SetUp() override {
-    int argc = 1;
-    char name[] = "stub_pragmas_test";
-    char *argv[] = {name, nullptr};
-    init_suif(argc, argv);
+    ir_test::SetUp();
     drs_init_state();
     forget_stub_mode_name();
     flag_instrum = false;
     flag_drs_pragmas = true;
-    b = new program_builder(nullptr);
     current_fse = b->fse();
     fn = b->func(type_signed, {b->ptr(type_signed)});
   }
   void TearDown() override {
     flag_instrum = false;
-    delete b;
     drs_free_state();
-    exit_suif();
+    ir_test::TearDown();
   }
   void pragma(std::initializer_list<immed> words) { b->annotate(b->fse(), k_pragma, words); }
 
-  program_builder *b = nullptr;
   func_type *fn = nullptr;
 };
 

@@ -6,9 +6,7 @@
 #include "analysis/used_symbols.h"
 #include "driver/global_lists.h"
 #include "driver/options.h"
-#include "ir/builder.h"
-
-#include <gtest/gtest.h>
+#include "types/ir_test_fixture.h"
 
 #include <cstdio>
 #include <random>
@@ -17,33 +15,21 @@
 
 namespace {
 
-std::vector<std::string> names_of(sym_node_list *list) {
+template <class List> std::vector<std::string> names_of(List *list) {
   std::vector<std::string> out;
   if (list)
-    for (sym_node_list_e *e = list->head(); e; e = e->next())
-      out.push_back(e->contents->name());
-  return out;
-}
-
-std::vector<std::string> names_of(proc_sym_list *list) {
-  std::vector<std::string> out;
-  if (list)
-    for (proc_sym_list_e *e = list->head(); e; e = e->next())
+    for (auto *e = list->head(); e; e = e->next())
       out.push_back(e->contents->name());
   return out;
 }
 
 using names = std::vector<std::string>;
 
-class Collection : public testing::Test {
+class Collection : public ir_test {
 protected:
   void SetUp() override {
-    int argc = 1;
-    char name[] = "symbol_collection_test";
-    char *argv[] = {name, nullptr};
-    init_suif(argc, argv);
+    ir_test::SetUp();
     forget_stub_mode_name();
-    b = new program_builder(nullptr, "prog.c");
     current_fse = b->fse();
     exit_status = 0;
     automatic_stubber_reported = false;
@@ -55,12 +41,11 @@ protected:
     delete_global_lists();
     delete procs_after_loop;
     procs_after_loop = nullptr;
-    delete b;
     free_used_symbols_scratch();
-    exit_suif();
+    ir_test::TearDown();
     exit_status = 0;
     automatic_stubber_reported = false;
-    flag_instrum = false;
+    flag_instrum = flag_main_generator = false;
   }
   // Runs the pass and returns what it printed on stderr.
   std::string collect(const char *tasks = nullptr, const char *cs_begin = nullptr, const char *temporal = nullptr,
@@ -78,7 +63,6 @@ protected:
     return b->extern_proc(name, type);
   }
 
-  program_builder *b = nullptr;
   func_type *int_fn = nullptr;
 };
 
@@ -204,7 +188,7 @@ TEST_F(Collection, FilePrefixFindsOnlyThatOrigin) {
   var_sym *in_other = b->static_var("count", type_signed);
   EXPECT_EQ(find_original_symbol(b->fse(), "OTHER.C:count", SYM_VAR), in_other);
   EXPECT_EQ(find_original_symbol(b->fse(), "other.c:count.field", SYM_VAR), in_other);
-  EXPECT_EQ(find_original_symbol(b->fse(), "prog.c:count", SYM_VAR), nullptr);
+  EXPECT_EQ(find_original_symbol(b->fse(), "test.c:count", SYM_VAR), nullptr);
   EXPECT_EQ(find_original_symbol(b->fse(), "count", SYM_PROC), nullptr);
   // Without a prefix, a symbol without origin wins over a static one.
   EXPECT_EQ(find_original_symbol(b->fse(), "count", any_sym_kind), global_st->lookup_sym("count", SYM_VAR, false));

@@ -2,9 +2,7 @@
 // graph can take, and random programs checked against the closure algorithm.
 #include "analysis/used_symbols.h"
 #include "driver/options.h"
-#include "ir/builder.h"
-
-#include <gtest/gtest.h>
+#include "types/ir_test_fixture.h"
 
 #include <random>
 #include <string>
@@ -13,25 +11,19 @@
 
 namespace {
 
-class UsedSymbols : public testing::Test {
+class UsedSymbols : public ir_test {
 protected:
   void SetUp() override {
-    int argc = 1;
-    char name[] = "used_symbols_test";
-    char *argv[] = {name, nullptr};
-    init_suif(argc, argv);
+    ir_test::SetUp();
     flag_all_procs_used = false;
-    b = new program_builder(nullptr);
     void_fn = b->func(type_void, {});
   }
   void TearDown() override {
-    delete b;
     free_used_symbols_scratch();
-    exit_suif();
+    ir_test::TearDown();
   }
   proc_sym *defined(const char *name) { return b->defined_proc(name, void_fn); }
 
-  program_builder *b = nullptr;
   func_type *void_fn = nullptr;
 };
 

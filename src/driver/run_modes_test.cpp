@@ -5,27 +5,21 @@
 #include "driver/run_modes.h"
 #include "drs/drs_model.h"
 #include "analysis/used_symbols.h"
-#include "ir/builder.h"
-
-#include <gtest/gtest.h>
+#include "types/ir_test_fixture.h"
 
 #include <string>
 #include <vector>
 
 namespace {
 
-class StubMode : public testing::Test {
+class StubMode : public ir_test {
 protected:
   void SetUp() override {
     std::string templ = testing::TempDir() + "qvt_stub_mode_XXXXXX";
     ASSERT_NE(mkdtemp(templ.data()), nullptr);
     dir = templ;
-    int argc = 1;
-    char name[] = "run_modes_test";
-    char *argv[] = {name, nullptr};
-    init_suif(argc, argv);
+    ir_test::SetUp();
     drs_init_state();
-    b = new program_builder(nullptr);
     current_fse = b->fse();
     stubs_dir = dir.data();
     exit_status = 0;
@@ -35,10 +29,9 @@ protected:
   }
   void TearDown() override {
     delete_global_lists();
-    delete b;
     free_used_symbols_scratch();
     drs_free_state();
-    exit_suif();
+    ir_test::TearDown();
     stubs_dir = nullptr;
     ASSERT_EQ(system(("rm -rf '" + dir + "'").c_str()), 0);
   }
@@ -54,7 +47,6 @@ protected:
     testing::internal::GetCapturedStderr();
   }
 
-  program_builder *b = nullptr;
   std::string dir;
 };
 

@@ -2,27 +2,20 @@
 // the two passes over empty tables.
 #include "drs/drs_model.h"
 #include "driver/options.h"
-#include "ir/builder.h"
-
-#include <gtest/gtest.h>
-
-#include <string>
+#include "types/ir_test_fixture.h"
 
 namespace {
 
-class DrsState : public testing::Test {
+class DrsState : public ir_test {
 protected:
   void SetUp() override {
-    int argc = 1;
-    char name[] = "drs_model_test";
-    char *argv[] = {name, nullptr};
-    init_suif(argc, argv);
+    ir_test::SetUp();
     drs_init_state();
     flag_unit_by_unit = false;
   }
   void TearDown() override {
     drs_free_state();
-    exit_suif();
+    ir_test::TearDown();
   }
 };
 
@@ -57,10 +50,9 @@ TEST_F(DrsState, PragmaEntries) {
 }
 
 TEST_F(DrsState, PassMovesPragmaEntriesAfterTheFile) {
-  program_builder b(nullptr);
   drs_add_pragma("init", "v", "0", "10", nullptr);
   flag_unit_by_unit = true;
-  run_drs_pass(nullptr, b.fse(), nullptr, nullptr);
+  run_drs_pass(nullptr, b->fse(), nullptr, nullptr);
   EXPECT_TRUE(drs_pragma_entries->empty());
   ASSERT_EQ(drs_read_entries->size(), 1u);
   EXPECT_STREQ(drs_read_entries->front()->name, "v");
@@ -68,9 +60,8 @@ TEST_F(DrsState, PassMovesPragmaEntriesAfterTheFile) {
 }
 
 TEST_F(DrsState, CppPassIsSilentAndLeavesPragmasAlone) {
-  program_builder b(nullptr);
   drs_add_pragma("init", "v", "0", "10", nullptr);
-  run_cpp_drs_pass(nullptr, b.fse());
+  run_cpp_drs_pass(nullptr, b->fse());
   EXPECT_TRUE(flag_no_warnings_for_drs);
   EXPECT_EQ(drs_pragma_entries->size(), 1u);
   EXPECT_TRUE(drs_read_entries->empty());
