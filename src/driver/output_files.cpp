@@ -34,28 +34,46 @@ const char *k_fct_stub = nullptr;
 const char *k_fct_stub_pure = nullptr;
 const char *k_fct_stub_worst = nullptr;
 
+// Stub files are most of the output, one call here per line: the indentation goes out in one
+// write, and the stream is only ever used by this thread, so the unlocked calls serve.
 void emit_indent() {
-  for (int i = 0; i < indent_level; i++) fputs("    ", out_file);
+  static const char blanks[] = "                                                                ";
+  size_t n = indent_level > 0 ? (size_t)indent_level * 4 : 0;
+  while (n > 0) {
+    size_t k = n < sizeof blanks - 1 ? n : sizeof blanks - 1;
+    fwrite_unlocked(blanks, 1, k, out_file);
+    n -= k;
+  }
 }
 
 void emit_line(const char *text) {
   if (text && text[0] == '}') indent_level--;
   emit_indent();
   if (text && text[0] == '{') indent_level++;
-  if (text) fprintf(out_file, "%s", text);
+  if (text) fputs_unlocked(text, out_file);
 }
 
 char *stubs_dir_path(const char *name) {
   return bufprintf("%s/%s", stubs_dir, name);
 }
 
+// A generated file is hundreds of kilobytes: a buffer larger than the default one saves
+// system calls. Only one output file is ever open; should a second be, it keeps the default.
+static char out_buffer[1 << 16];
+static FILE *out_buffer_owner = nullptr;
+
 FILE *open_output_file(const char *path) {
   out_file = fopen(path, "ab");
   if (!out_file) error_line(1, nullptr, "qvt-stubber: file '%s' access fails", path);
+  if (!out_buffer_owner) {
+    setvbuf(out_file, out_buffer, _IOFBF, sizeof out_buffer);
+    out_buffer_owner = out_file;
+  }
   return out_file;
 }
 
 void close_output_file() {
+  if (out_file == out_buffer_owner) out_buffer_owner = nullptr;
   checked_fclose(out_file);
 }
 
