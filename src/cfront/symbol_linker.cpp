@@ -35,13 +35,16 @@ llvm::DenseMap<const clang::Decl *, sym_node *> unit_syms;  // canonical decl ->
 std::vector<var_sym *> linked_vars;                            // global and file variables, in order
 std::unordered_set<var_sym *> read_vars;
 std::unordered_set<var_sym *> user_declared_vars;
-std::unordered_map<sym_node *, std::string> first_place;
+// Where each symbol was first seen (its definition, for a function), for
+// warnings; a coordinate rather than its text, as there is one per symbol.
+llvm::DenseMap<sym_node *, coord> first_place;
 std::unordered_set<std::string> fundamental_seen;
 
-std::string place_text(const clang::Decl *d) {
-    coord c = coord_of(d);
+std::string place_text(const coord &c) {
     return std::string(c.file ? c.file : "<built-in>") + ":" + std::to_string(c.line);
 }
+
+std::string place_text(const clang::Decl *d) { return place_text(coord_of(d)); }
 
 bool in_system_header(const clang::Decl *d) {
     clang::SourceLocation loc = d->getLocation();
@@ -137,7 +140,7 @@ void merge_proc_type(proc_sym *p, const clang::FunctionDecl *fd) {
         return;
     }
     fprintf(stderr, "qvt-cfront: warning: function '%s' is declared with different types at %s and %s\n",
-            p->true_name(), first_place[p].c_str(), place_text(fd).c_str());
+            p->true_name(), place_text(first_place[p]).c_str(), place_text(fd).c_str());
 }
 
 void merge_var_type(var_sym *v, type_node *t, const clang::VarDecl *vd) {
@@ -150,7 +153,7 @@ void merge_var_type(var_sym *v, type_node *t, const clang::VarDecl *vd) {
     }
     if (t->is_array() && static_cast<array_type *>(t)->are_bounds_unknown()) return;
     fprintf(stderr, "qvt-cfront: warning: variable '%s' is declared with different types at %s and %s\n",
-            v->true_name(), first_place[v].c_str(), place_text(vd).c_str());
+            v->true_name(), place_text(first_place[v]).c_str(), place_text(vd).c_str());
 }
 
 void define_var(var_sym *v, const clang::VarDecl *def, bool tentative_array) {
@@ -181,13 +184,13 @@ void add_function(const clang::FunctionDecl *fd) {
     if (!fd->doesThisDeclarationHaveABody()) return;
     if (p->src_lang() != src_unknown) {
         fprintf(stderr, "qvt-cfront: warning: function '%s' is defined at %s and %s; the first is kept\n",
-                p->true_name(), first_place[p].c_str(), place_text(fd).c_str());
+                p->true_name(), place_text(first_place[p]).c_str(), place_text(fd).c_str());
         return;
     }
     p->set_src_lang(src_c);
     p->set_file(entry);
     set_coordinates(p, fd);
-    first_place[p] = place_text(fd);
+    first_place[p] = coord_of(fd);
     annotate_orig_types(p, *ctx, fd);
     build_body(p, fd, *ctx);
 }
@@ -315,7 +318,7 @@ proc_sym *linked_proc(const clang::FunctionDecl *fd) {
     if (is_new) {
         p->set_userdef();
         set_coordinates(p, fd);
-        first_place[p] = place_text(fd);
+        first_place[p] = coord_of(fd);
         annotate_orig_types(p, *ctx, fd->getMostRecentDecl());
     }
     bool is_inline = false;
@@ -359,7 +362,7 @@ var_sym *linked_var(const clang::VarDecl *vd) {
     if (is_new) {
         v->set_userdef();
         set_coordinates(v, vd);
-        first_place[v] = place_text(vd);
+        first_place[v] = coord_of(vd);
         linked_vars.push_back(v);
     }
     unit_syms[canon] = v;

@@ -1,0 +1,7 @@
+int twice_defined(void);
+int level;
+
+int twice_defined(void)
+{
+    return level;
+}

@@ -1,0 +1,5 @@
+extern long level;
+int twice_defined(void)
+{
+    return 2;
+}
