@@ -1,13 +1,17 @@
 #!/usr/bin/env python3
 """Writes a synthetic multi-file C program for the front-end benchmark.
 
-gen_c.py OUT_DIR [FILES] [FUNCS_PER_FILE]
+gen_c.py [--per-file-headers] OUT_DIR [FILES] [FUNCS_PER_FILE]
 
 Each file has its own structs (with a pointer to the next file's struct, a
 union and bit-fields), globals, statics, a function pointer table and
 functions whose bodies call functions of their own file, of the next file,
-and undefined ones declared in a shared header. The output is the same for
-the same arguments.
+and undefined ones. By default they are declared in one header shared by all
+files, which declares every function of the program, so the text parsed grows
+with files times functions. With --per-file-headers each file includes its
+own header, declaring only what that file uses, so the program grows in
+proportion to its number of functions. The output is the same for the same
+arguments.
 """
 import os
 import sys
@@ -27,9 +31,26 @@ def header(files, funcs):
     return "\n".join(out)
 
 
-def source(f, files, funcs):
+def file_header(f, files, funcs):
+    """The declarations file f uses: its own and the next file's."""
     nxt = (f + 1) % files
-    out = ['#include "bench.h"', ""]
+    guard = "FILE_%03d_H" % f
+    out = ["#ifndef " + guard, "#define " + guard, ""]
+    for g in sorted({f, nxt}):
+        out.append("struct node_%d;" % g)
+    out.append("")
+    out.append("int ext_%d(struct node_%d *n, const char *tag, ...);" % (f, f))
+    for g in sorted({f, nxt}):
+        out.append("extern int shared_%d;" % g)
+    for k in range(funcs):
+        out.append("int f_%d_%d(struct node_%d *n, int x);" % (f, k, f))
+    out += ["", "#endif", ""]
+    return "\n".join(out)
+
+
+def source(f, files, funcs, include):
+    nxt = (f + 1) % files
+    out = ['#include "%s"' % include, ""]
     out.append("union val_%d { int i; float x; unsigned char b[8]; };" % f)
     out.append("struct node_%d {" % f)
     out.append("    int id;")
@@ -64,18 +85,28 @@ def source(f, files, funcs):
 
 
 def main():
-    if len(sys.argv) < 2:
-        sys.stderr.write("usage: gen_c.py OUT_DIR [FILES] [FUNCS_PER_FILE]\n")
+    args = sys.argv[1:]
+    per_file = "--per-file-headers" in args
+    args = [a for a in args if a != "--per-file-headers"]
+    if not 1 <= len(args) <= 3 or any(a.startswith("-") for a in args):
+        sys.stderr.write(
+            "usage: gen_c.py [--per-file-headers] OUT_DIR [FILES] [FUNCS_PER_FILE]\n")
         return 2
-    out_dir = sys.argv[1]
-    files = int(sys.argv[2]) if len(sys.argv) > 2 else 64
-    funcs = int(sys.argv[3]) if len(sys.argv) > 3 else 50
+    out_dir = args[0]
+    files = int(args[1]) if len(args) > 1 else 64
+    funcs = int(args[2]) if len(args) > 2 else 50
     os.makedirs(out_dir, exist_ok=True)
-    with open(os.path.join(out_dir, "bench.h"), "w") as fh:
-        fh.write(header(files, funcs))
+    if not per_file:
+        with open(os.path.join(out_dir, "bench.h"), "w") as fh:
+            fh.write(header(files, funcs))
     for f in range(files):
+        include = "bench.h"
+        if per_file:
+            include = "file_%03d.h" % f
+            with open(os.path.join(out_dir, include), "w") as fh:
+                fh.write(file_header(f, files, funcs))
         with open(os.path.join(out_dir, "file_%03d.c" % f), "w") as fh:
-            fh.write(source(f, files, funcs))
+            fh.write(source(f, files, funcs, include))
     return 0
 
 
