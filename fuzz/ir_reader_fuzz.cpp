@@ -18,14 +18,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size) {
     char *argv[] = {name, nullptr};
     init_suif(argc, argv);
     std::string error;
-    file_set_entry *fse = fileset->try_add_file(path.c_str(), nullptr, &error);
-    if (fse) {
-        fse->reset_proc_iter();
-        while (proc_sym *p = fse->next_proc()) {
-            if (!ir_read_body(p, &error)) break;
-            p->flush_proc();
-        }
-    }
+    ir_check_file(path.c_str(), &error);
     exit_suif();
     return 0;
 }

@@ -1124,7 +1124,6 @@ void proc_sym::flush_proc() {
 }
 
 bool ir_check_file(const char *path, std::string *error) {
-    std::string e;
     file_set_entry *fse = fileset->try_add_file(path, nullptr, error);
     if (!fse) return false;
     fse->reset_proc_iter();
