@@ -47,7 +47,7 @@ int main(int argc, char **argv) {
         return 1;
     }
     std::vector<std::string> missing;
-    link_finish(opts.tasks, &missing);
+    link_finish(opts.tasks, &missing, opts.analyser_libc);
     for (const std::string &t : missing)
         fprintf(stderr, "qvt-cfront: warning: task '%s' is not a function of the program\n", t.c_str());
     exit_suif();

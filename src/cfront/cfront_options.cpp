@@ -1,5 +1,5 @@
-// Command line of qvt-cfront. Our own options (-o, -p, -tasks, -j, --help,
-// --version) are taken out; everything else is a clang option that every
+// Command line of qvt-cfront. Our own options (-o, -p, -tasks, -j,
+// -analyser-libc, --help, --version) are taken out; everything else is a clang option that every
 // unit gets, in the order given. Options that take their value as the next
 // word are listed so that the value is not mistaken for a source file.
 #include "cfront/cfront_options.h"
@@ -47,6 +47,8 @@ const char *cfront_usage() {
            "  -p DIR         take every C file of DIR/compile_commands.json, each with its own flags\n"
            "  -tasks a,b     mark the functions a and b as tasks\n"
            "  -j N           parse with N threads (default: all cores)\n"
+           "  -analyser-libc leave the functions declared only in system headers to the\n"
+           "                 analyser's own C library: they get no stub\n"
            "  --help         print this text\n"
            "  --version      print the version\n"
            "\n"
@@ -87,6 +89,8 @@ bool parse_cfront_options(int argc, const char *const *argv, cfront_options *opt
             for (auto &t : split_commas(v)) opts->tasks.push_back(t);
         } else if (strncmp(a, "-tasks=", 7) == 0) {
             for (auto &t : split_commas(a + 7)) opts->tasks.push_back(t);
+        } else if (strcmp(a, "-analyser-libc") == 0) {
+            opts->analyser_libc = true;
         } else if (strcmp(a, "-j") == 0 || (strncmp(a, "-j", 2) == 0 && a[2])) {
             const char *v = a[2] ? a + 2 : value(a);
             if (!v) return false;

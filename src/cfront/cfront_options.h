@@ -18,6 +18,8 @@ struct cfront_options {
     std::string output;
     std::vector<std::string> tasks;
     int threads = 0;  // 0: all cores
+    // Functions declared only in system headers are left to the analyser's own C library.
+    bool analyser_libc = false;
     bool show_help = false;
     bool show_version = false;
 };

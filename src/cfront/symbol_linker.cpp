@@ -35,6 +35,8 @@ llvm::DenseMap<const clang::Decl *, sym_node *> unit_syms;  // canonical decl ->
 std::vector<var_sym *> linked_vars;                            // global and file variables, in order
 std::unordered_set<var_sym *> read_vars;
 std::unordered_set<var_sym *> user_declared_vars;
+std::vector<proc_sym *> linked_procs;  // global functions, in order
+std::unordered_set<proc_sym *> user_declared_procs;
 // Where each symbol was first seen (its definition, for a function), for
 // warnings; a coordinate rather than its text, as there is one per symbol.
 llvm::DenseMap<sym_node *, coord> first_place;
@@ -181,6 +183,7 @@ public:
 void add_function(const clang::FunctionDecl *fd) {
     if (!wanted(fd)) return;
     proc_sym *p = linked_proc(fd);
+    if (!in_system_header(fd)) user_declared_procs.insert(p);
     if (!fd->doesThisDeclarationHaveABody()) return;
     if (p->src_lang() != src_unknown) {
         fprintf(stderr, "qvt-cfront: warning: function '%s' is defined at %s and %s; the first is kept\n",
@@ -284,6 +287,8 @@ void link_begin(file_set_entry *fse) {
     linked_vars.clear();
     read_vars.clear();
     user_declared_vars.clear();
+    linked_procs.clear();
+    user_declared_procs.clear();
     first_place.clear();
     fundamental_seen.clear();
 }
@@ -312,10 +317,13 @@ proc_sym *linked_proc(const clang::FunctionDecl *fd) {
             move_static_aside(name.str());
             p = global_st->new_proc(function_type_of(fd), src_unknown, name.str().c_str());
             global_procs[name] = p;
+            linked_procs.push_back(p);
             is_new = true;
         }
     }
     if (is_new) {
+        // A function first met in a call that no declaration precedes is the user's.
+        if (!in_system_header(fd)) user_declared_procs.insert(p);
         p->set_userdef();
         set_coordinates(p, fd);
         first_place[p] = coord_of(fd);
@@ -391,12 +399,18 @@ void link_unit(clang::ASTContext &c, const std::vector<pragma_words> &pragmas) {
     ctx = nullptr;
 }
 
-void link_finish(const std::vector<std::string> &tasks, std::vector<std::string> *missing) {
+void link_finish(const std::vector<std::string> &tasks, std::vector<std::string> *missing, bool analyser_libc) {
     for (var_sym *v : linked_vars) {
         if (!read_vars.count(v)) v->append_annote(k_never_read);
         if (!v->has_var_def() && !user_declared_vars.count(v) && !v->peek_annote(k_static_sym))
             v->set_flag(SYMFLAG_STANDARD_STUBBED);
     }
+    // The analyser knows its C library better than a generic stub can say it:
+    // a function that the user neither declares nor defines is left to it.
+    if (analyser_libc)
+        for (proc_sym *p : linked_procs)
+            if (p->src_lang() == src_unknown && !user_declared_procs.count(p) && !p->peek_annote(k_builtin))
+                p->append_annote(k_builtin);
     for (const std::string &t : tasks) {
         proc_sym *p = global_st->lookup_proc(t.c_str(), false);
         if (!p) p = entry->symtab()->lookup_proc(t.c_str(), false);

@@ -27,9 +27,12 @@ void link_begin(file_set_entry *fse);
 // definitions, and its pragmas on the entry.
 void link_unit(clang::ASTContext &ctx, const std::vector<pragma_words> &pragmas);
 
-// Ends the program: k_never_read, is_standard_stubbed, the tasks. Names of
-// tasks that are no function of the program are returned in *missing.
-void link_finish(const std::vector<std::string> &tasks, std::vector<std::string> *missing);
+// Ends the program: k_never_read, is_standard_stubbed, the tasks, and with
+// analyser_libc k_builtin on every function without a body that only system
+// headers declare. Names of tasks that are no function of the program are
+// returned in *missing.
+void link_finish(const std::vector<std::string> &tasks, std::vector<std::string> *missing,
+                 bool analyser_libc = false);
 
 // For the body builder, during link_unit: the symbol of a function or of a
 // variable with linkage (made on first use, as for a function declared
