@@ -91,6 +91,10 @@ drs_entry *drs_new_entry(unsigned mode, const char *name, const char *min, const
 unsigned drs_pointer_kind_of(const char *attribute);
 unsigned drs_mode_of_word(const char *word);
 
+// The plain range file at drs_file_path into drs_read_entries and
+// drs_template_entries; a bad line is reported and dropped.
+void drs_read_text_file();
+
 // The range pragma: an entry of drs_pragma_entries; an unknown mode leaves none.
 void drs_add_pragma(const char *mode, const char *name, const char *min, const char *max,
                     const char *pointer_attribute);

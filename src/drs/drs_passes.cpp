@@ -16,6 +16,8 @@ void run_drs_pass(const char *path, file_set_entry *fse, sym_node_list *procs, s
   if (path) {
     drs_file_path = path;
     // Reading: an XML file by its version, anything else as text.
+    drs_read_text_file();
+    drs_file_version = -1;
   }
 
   // Pragma entries always come after the file's.
@@ -35,5 +37,6 @@ void run_cpp_drs_pass(const char *path, file_set_entry *fse) {
   drs_fse = fse;
   flag_no_warnings_for_drs = true;
   drs_no_log = true;
-  // Reading as text, binding, then the assert and permanent application go here.
+  drs_read_text_file();
+  // Binding, then the assert and permanent application go here.
 }
