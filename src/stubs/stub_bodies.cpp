@@ -14,7 +14,7 @@
 #include "drs/drs_model.h"
 #include "driver/options.h"
 #include "maingen/range_constraints.h"
-#include "maingen/range_init.h"
+#include "maingen/var_init.h"
 #include "stubs/stub_text.h"
 #include "stubs/stub_writes.h"
 #include "stubs/user_stubs.h"

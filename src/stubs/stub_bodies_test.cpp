@@ -3,7 +3,7 @@
 #include "stubs/stub_bodies.h"
 
 #include "analysis/stub_pragmas.h"
-#include "maingen/range_init.h"
+#include "maingen/var_init.h"
 #include "stubs/stub_test_util.h"
 
 #include <algorithm>
