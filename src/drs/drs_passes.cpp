@@ -1,8 +1,9 @@
 // The two range passes: -drs-gen (alone, or inside the stub mode) and -cpp-drs-gen.
 //
-// Both keep their fixed order of steps. Reading a range file, binding entries
-// to symbols, applying them and exporting the template are separate stages;
-// where a stage is not part of this build yet, the pass goes on to the next.
+// Both keep their fixed order of steps: reading, binding, application; the -drs-gen pass also
+// exports the template, last, whatever was read.
+#include "drs/drs_apply.h"
+#include "drs/drs_bind.h"
 #include "drs/drs_model.h"
 #include "driver/options.h"
 
@@ -24,19 +25,26 @@ void run_drs_pass(const char *path, file_set_entry *fse, sym_node_list *procs, s
   drs_read_entries->splice(drs_read_entries->end(), *drs_pragma_entries);
 
   if (!drs_read_entries->empty()) {
-    // Binding and application of the entries go here; they may create symbols.
+    drs_bind_entries();
+    drs_annotate_init_entries();
+    drs_apply_assert_entries();
+    drs_apply_permanent_entries();
+    // The application may have made symbols.
     fse->parent()->globals->number_globals();
   }
 
   // The template export runs last, also when nothing was read.
 }
 
-// Speaks no word: no warnings and no log, whatever the options say.
+// Speaks no word: no warnings and no log, whatever the options say. init entries are bound
+// and then have no effect.
 void run_cpp_drs_pass(const char *path, file_set_entry *fse) {
   drs_file_path = path;
   drs_fse = fse;
   flag_no_warnings_for_drs = true;
   drs_no_log = true;
   drs_read_text_file();
-  // Binding, then the assert and permanent application go here.
+  drs_bind_entries();
+  drs_apply_assert_entries();
+  drs_apply_permanent_entries();
 }
