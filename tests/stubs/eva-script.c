@@ -1,0 +1,60 @@
+// scripts/eva.sh on a program whose main takes argv, with the C library left to Frama-C
+// (-analyser-libc): the analysis starts at main, so the code after the use of argv is reached;
+// exit ends the paths that call it; the block that malloc returns is valid; the program's own
+// undefined function keeps its stub, whose unknown result raises the one index alarm. With a
+// task the analysis starts at the generated entry point, which calls main and the task.
+// REQUIRES: framac
+// RUN: rm -rf %t && mkdir -p %t/stubs %t/tasks
+// RUN: qvt-cfront -analyser-libc %s -o %t/p.ir
+// RUN: qvt-stubber -stubber -stubs-dir %t/stubs %t/p.ir %t/p.out.ir 2> %t/err.txt
+// RUN: %FileCheck-exact --check-prefix=STUBS %s --input-file %t/err.txt
+// RUN: env FRAMAC=%frama-c %src_root/scripts/eva.sh -stubs %t/stubs -csv %t/report.csv %s > %t/summary.txt
+// RUN: %FileCheck-exact --check-prefix=SUMMARY %s --input-file %t/summary.txt
+// RUN: %FileCheck-exact --check-prefix=REACHED %s --input-file %t/report.csv
+// RUN: %FileCheck-exact --check-prefix=NOALARM %s --input-file %t/report.csv
+// RUN: qvt-cfront -analyser-libc -tasks worker %s -o %t/t.ir
+// RUN: qvt-stubber -stubber -tasks worker -stubs-dir %t/tasks %t/t.ir %t/t.out.ir 2> %t/err.tasks.txt
+// RUN: env FRAMAC=%frama-c %src_root/scripts/eva.sh -stubs %t/tasks -csv %t/tasks.csv %s > %t/summary.tasks.txt
+// RUN: %FileCheck-exact --check-prefix=TASKS %s --input-file %t/summary.tasks.txt
+
+// STUBS-NOT:{{.*}}malloc{{.*}}
+// STUBS:* Function lookup is pure.
+// STUBS-NOT:{{.*}}Function{{.*}}
+
+// SUMMARY:entry: main (main takes arguments)
+// SUMMARY-NEXT:coverage: 2 of 2 reachable functions (100.0%)
+// SUMMARY-NEXT:alarms: 3: index_bound 2, precondition 1
+
+// TASKS:entry: __QVT__MAIN__ENTRY__POINT__ (the program has tasks)
+
+#include <stdlib.h>
+#include <string.h>
+
+int lookup(const char *key);
+int worker_runs;
+
+void worker(void)
+{
+  worker_runs++;
+}
+
+int main(int argc, char **argv)
+{
+  int table[4] = {0};
+  int *slot = 0;
+  size_t n;
+  char *copy;
+  if (argc > 2)
+    slot = &table[1];
+  if (!slot)
+    exit(2);
+  *slot = 1; // NOALARM-NOT:{{.*}}eva-script.c{{.}}[[@LINE]]{{.}}{{.*}}
+  n = strlen(argv[1]);
+  copy = malloc(n + 1);
+  if (!copy)
+    exit(1);
+  copy[0] = argv[1][0]; // NOALARM-NOT:{{.*}}eva-script.c{{.}}[[@LINE]]{{.}}{{.*}}
+  table[lookup(copy)] = 1; // REACHED:{{.*}}eva-script.c{{.}}[[@LINE]]{{.}}main{{.}}index_bound{{.}}Unknown{{.}}tmp < 4
+  free(copy);
+  return table[0];
+}
