@@ -9,6 +9,7 @@
 #include "driver/output_files.h"
 #include "drs/drs_model.h"
 #include "maingen/entry_point.h"
+#include "maingen/main_driver.h"
 #include "stubs/stub_driver.h"
 #include "stubs/user_stubs.h"
 #include "types/fundamental_types_header.h"
@@ -38,8 +39,8 @@ void run_stub_mode(const run_args &args) {
   write_stub_types_header();
 
   // Generated C files: stubs (or one prologue-only stub file with -no-stubs),
-  // the entry point and the user stub skeleton. The generated main and the
-  // init files of extern and ranged variables are not made yet.
+  // the entry point, the user stub skeleton, the generated main and the init
+  // functions of extern and ranged variables.
   if (flag_no_stubs) {
     string_list *none = new string_list;
     write_stub_file(none);
@@ -50,6 +51,12 @@ void run_stub_mode(const run_args &args) {
   write_entry_point();
   if (!flag_no_user_stubs_file)
     write_user_stubs_file();
+  if (flag_main_generator)
+    generate_main();
+  if (extern_var_list && !extern_var_list->is_empty())
+    write_extern_init_file();
+  if (!flag_no_drs_init && drs_init_vars && !drs_init_vars->is_empty())
+    write_drs_init_file();
 
   if (exit_status != 0)
     print_error_explanation();
