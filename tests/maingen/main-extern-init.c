@@ -14,12 +14,12 @@
 // RUN: qvt-stubber -stubber -no-undef-variables-stubs -stubs-dir %t/none %t/lib.ir %t/o.ir 2> %t/err.txt
 // RUN: not ls %t/none/qvt_stubs_1.c
 
-#include <stdio.h>
+#include <unistd.h>
 
 extern int ext_a;
 extern double ext_b;
 int local;
-int sample(void) { return ext_a + (int)ext_b + local + (stdin != 0); }
+int sample(void) { return ext_a + (int)ext_b + local + (optarg != 0); }
 #ifdef WITH_MAIN
 int main(void) { return sample(); }
 #endif
@@ -37,8 +37,8 @@ int main(void) { return sample(); }
 // CHECK-NEXT:    /* init for variable ext_b */
 // CHECK-NEXT:    _main_gen_init_sym_ext_b();
 // CHECK-NEXT:{{ {4}$}}
-// PROG-NEXT:    /* init for variable stdin */
-// PROG-NEXT:    _main_gen_init_sym_stdin();
+// PROG-NEXT:    /* init for variable optarg */
+// PROG-NEXT:    _main_gen_init_sym_optarg();
 // PROG-NEXT:{{ {4}$}}
 // CHECK-NEXT:}
 // CHECK-NOT:{{.}}

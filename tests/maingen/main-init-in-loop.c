@@ -9,7 +9,7 @@
 // RUN: %cc-check %t/in/__quorvanta_main.c %t/fn/__quorvanta_main.c
 
 int speed;
-void start(void) { speed = 0; }
+void start(void) { speed = speed / 2; }
 
 // IN-LABEL:void main(void)
 // IN-NEXT:{

@@ -30,8 +30,8 @@ int shown;
 static int hidden;
 const int fixed = 1;
 extern int outside;
-void used(void) { hidden = outside; }
-void caller(void) { used(); }
+void used(void) { hidden = outside + shown; }
+void caller(void) { used(); shown = hidden; }
 static void helper(void) { }
 
 // DEF-LABEL:void main(void)
