@@ -253,6 +253,29 @@ static void print_list(tree_node_list *l, int indent) {
     for (tree_node_list_e *e = l->head(); e; e = e->next()) print_node(e->contents, indent);
 }
 
+// The nth immed of an annotation as a string, or "?".
+static const char *immed_string(annote *a, int n) {
+    immed_list *l = a ? a->immeds() : nullptr;
+    immed_list_e *e = l ? l->head() : nullptr;
+    for (; e && n > 0; --n) e = e->next();
+    return e && e->contents.is_string() ? e->contents.string() : "?";
+}
+
+// What a procedure made from a range entry stands for, after its signature: the range that a
+// permanent procedure declares, the condition that a globalassert procedure tests, or the
+// writes and reads of a list procedure.
+static void print_range_summary(tree_proc *body) {
+    if (annote *a = body->peek_annote(k_drs)) {
+        if (!strcmp(immed_string(a, 0), "globalassert"))
+            printf("  /* globalassert range test: returns 0 on %s */", immed_string(a, 1));
+        else
+            printf("  /* %s range: %s in [%s..%s] (%s) */", immed_string(a, 0), immed_string(a, 1),
+                   immed_string(a, 3), immed_string(a, 4), immed_string(a, 2));
+    } else if (body->peek_annote(k_drs_range_func)) {
+        printf("  /* permanent range list: writes the ranged leaves, then reads their addresses */");
+    }
+}
+
 int main(int argc, char **argv) {
     if (argc != 2 || argv[1][0] == '-') {
         fprintf(stderr, "usage: qvt-irdump FILE\n");
@@ -282,7 +305,9 @@ int main(int argc, char **argv) {
         for (sym_node_list_e *e = st->params()->head(); e; e = e->next(), ++k)
             printf("%s%s %s", k ? ", " : "", type_text(static_cast<var_sym *>(e->contents)->type()).c_str(),
                    e->contents->name());
-        printf(")\n{\n");
+        printf(")");
+        print_range_summary(p->block());
+        printf("\n{\n");
         print_annotes(p->block(), 4);
         for (sym_node_list_e *e = st->symbols()->head(); e; e = e->next())
             if (!(e->contents->is_var() && static_cast<var_sym *>(e->contents)->is_param())) print_sym(e->contents, 4);

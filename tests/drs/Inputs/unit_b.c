@@ -1,0 +1,3 @@
+static int level;
+int helper(int n) { return n + level; }
+int main(void) { return helper(2); }
