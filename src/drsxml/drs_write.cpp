@@ -3,8 +3,9 @@
 //
 // A file's level is found again by its name, so the elements of one source
 // file stand together in the order in which they came. The stubber's own
-// values of an element (is_default 1) are written as mode "default": they
-// tell the user what happens without a range and read back as no range at all.
+// values of an element (is_default 1) are written as mode "default" (or
+// "default-permanent"): they tell the user what happens without a range and
+// read back as no range at all.
 #include "drsxml/drs_parser.h"
 #include "drsxml/drs_write_tree.h"
 
@@ -119,7 +120,9 @@ void drs_set_scalar(int sign, int size, const char *type_name, int init_status, 
   n->size = size;
   if (type_name && *type_name)
     n->type = pooled(type_name);
-  n->status = is_default ? 3 : init_status;
+  n->status = init_status;
+  if (is_default)
+    n->default_status = init_status;
   n->min = pooled(min && *min ? min : "min");
   n->max = pooled(max && *max ? max : "max");
   n->has_assert = assert_status == 7;
@@ -136,7 +139,9 @@ void drs_set_pointer(int init_status, const char *type_name, const char *min, co
     return;
   if (type_name && *type_name)
     n->type = pooled(type_name);
-  n->status = is_default ? 3 : init_status;
+  n->status = init_status;
+  if (is_default)
+    n->default_status = init_status;
   n->min = pooled(min && *min ? min : "min");
   n->max = pooled(max && *max ? max : "max");
   n->pointer_kind = pointer_kind;

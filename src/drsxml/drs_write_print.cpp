@@ -100,7 +100,8 @@ void put_element(FILE *out, const drs_node *n, int depth) {
   if (has_range) {
     // A scalar has no "written" mode: it reads as default, and so it is written.
     int status = n->kind == DRS_ELEMENT_SCALAR && n->status == 4 ? 3 : n->status;
-    put_attribute(out, "mode", drs_mode_word(status));
+    put_attribute(out, "mode", n->user_values ? drs_mode_word(status)
+                               : n->default_status == 2 ? "default-permanent" : "default");
     put_attribute(out, "min", n->min ? n->min : "min");
     put_attribute(out, "max", n->max ? n->max : "max");
   }

@@ -13,6 +13,7 @@ struct drs_node {
   const char *type;     // pooled, null when none
   const char *min, *max, *assert_min, *assert_max;
   int sign, size, status, pointer_kind, called;
+  int default_status;   // the status of the default call
   bool user_values;     // set by a call that is not the default one
   bool has_assert, allocated_write, unmatched;
   bool is_volatile, is_extern, is_static, is_const, is_dead;
