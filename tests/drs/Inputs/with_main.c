@@ -1,0 +1,2 @@
+int run(void);
+int main(void) { return run(); }
