@@ -1,0 +1,1 @@
+static int shared_state;

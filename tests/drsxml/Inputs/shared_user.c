@@ -1,0 +1,2 @@
+#include "shared.h"
+int read_shared(void) { return shared_state; }
