@@ -22,10 +22,7 @@ void *vp;
 int use(void) { return level + *none + *one + *many + r.count + r.a + r.bits + (int)r.w + *r.data + cb(1) + (vp != 0); }
 
 // MAIN-LABEL:static void _main_gen_init_sym_level(void)
-// MAIN-NEXT:{
-// MAIN-NEXT:    extern __QVT__SINT32 level;
-// MAIN-NEXT:{{ {4}$}}
-// MAIN-NEXT:    /* initialization with drs range */
+// MAIN:    /* initialization with drs range */
 // MAIN-NEXT:    {
 // MAIN-NEXT:        __QVT__SINT32 _main_gen_tmp_0;
 // MAIN-NEXT:        _main_gen_tmp_0 = qvt_random_g_[[INT:[0-9]+]];
@@ -33,23 +30,13 @@ int use(void) { return level + *none + *one + *many + r.count + r.a + r.bits + (
 // MAIN-NEXT:        unchecked_assert(_main_gen_tmp_0 <= 9);
 // MAIN-NEXT:        level = _main_gen_tmp_0;
 // MAIN-NEXT:    }
-// MAIN-NEXT:}
-// MAIN-EMPTY:
-// MAIN-NEXT:static void _main_gen_init_sym_none(void)
-// MAIN-NEXT:{
-// MAIN-NEXT:    extern __QVT__g__{{[0-9]+}} none;
-// MAIN-NEXT:{{ {4}$}}
-// MAIN-NEXT:    /* initialization with drs range */
+// MAIN-LABEL:static void _main_gen_init_sym_none(void)
+// MAIN:    /* initialization with drs range */
 // MAIN-NEXT:    {
 // MAIN-NEXT:        none = 0;
 // MAIN-NEXT:    }
-// MAIN-NEXT:}
-// MAIN-EMPTY:
-// MAIN-NEXT:static void _main_gen_init_sym_one(void)
-// MAIN-NEXT:{
-// MAIN-NEXT:    extern __QVT__g__{{[0-9]+}} one;
-// MAIN-NEXT:{{ {4}$}}
-// MAIN-NEXT:    /* initialization with drs range */
+// MAIN-LABEL:static void _main_gen_init_sym_one(void)
+// MAIN:    /* initialization with drs range */
 // MAIN-NEXT:    {
 // MAIN-NEXT:        if (qvt_random_int)
 // MAIN-NEXT:        {
@@ -66,13 +53,8 @@ int use(void) { return level + *none + *one + *many + r.count + r.a + r.bits + (
 // MAIN-NEXT:            one = &(_main_gen_tmp_1);
 // MAIN-NEXT:        }
 // MAIN-NEXT:    }
-// MAIN-NEXT:}
-// MAIN-EMPTY:
-// MAIN-NEXT:static void _main_gen_init_sym_many(void)
-// MAIN-NEXT:{
-// MAIN-NEXT:    extern __QVT__g__{{[0-9]+}} many;
-// MAIN-NEXT:{{ {4}$}}
-// MAIN-NEXT:    /* initialization with drs range */
+// MAIN-LABEL:static void _main_gen_init_sym_many(void)
+// MAIN:    /* initialization with drs range */
 // MAIN-NEXT:    {
 // MAIN-NEXT:        {
 // MAIN-NEXT:            static __QVT__SINT32 _main_gen_tmp_3[4];
@@ -85,13 +67,8 @@ int use(void) { return level + *none + *one + *many + r.count + r.a + r.bits + (
 // MAIN-NEXT:            many = &(_main_gen_tmp_3)[0];
 // MAIN-NEXT:        }
 // MAIN-NEXT:    }
-// MAIN-NEXT:}
-// MAIN-EMPTY:
-// MAIN-NEXT:static void _main_gen_init_sym_r(void)
-// MAIN-NEXT:{
-// MAIN-NEXT:    extern struct rec r;
-// MAIN-NEXT:{{ {4}$}}
-// MAIN-NEXT:    /* initialization with drs range */
+// MAIN-LABEL:static void _main_gen_init_sym_r(void)
+// MAIN:    /* initialization with drs range */
 // MAIN-NEXT:    {
 // MAIN-NEXT:        {
 // MAIN-NEXT:            __QVT__UINT32 bitf;
@@ -127,32 +104,21 @@ int use(void) { return level + *none + *one + *many + r.count + r.a + r.bits + (
 // MAIN-EMPTY:
 
 // RANGES-LABEL:static void _main_gen_init_sym_r(void)
-// RANGES-NEXT:{
-// RANGES-NEXT:    extern struct rec r;
-// RANGES-NEXT:{{ {4}$}}
-// RANGES-NEXT:    /* initialization with drs range */
+// RANGES:    /* initialization with drs range */
 // RANGES-NEXT:    {
 // RANGES-NEXT:        {
 // RANGES-NEXT:            {
 // RANGES-NEXT:                static __QVT__SINT32 _main_gen_tmp_[[DATA:[0-9]+]];
 
 // CHECK-LABEL:static void _main_gen_init_sym_cb(void)
-// CHECK-NEXT:{
-// CHECK-NEXT:    extern __QVT__g__{{[0-9]+}} cb;
-// CHECK-NEXT:{{ {4}$}}
-// CHECK-NEXT:    /* initialization with drs range */
+// CHECK:    /* initialization with drs range */
 // CHECK-NEXT:    {
 // CHECK-NEXT:        {
 // CHECK-NEXT:            cb = &_stub_p_g_{{[0-9]+}};
 // CHECK-NEXT:        }
 // CHECK-NEXT:    }
-// CHECK-NEXT:}
-// CHECK-EMPTY:
-// CHECK-NEXT:static void _main_gen_init_sym_vp(void)
-// CHECK-NEXT:{
-// CHECK-NEXT:    extern __QVT__g__{{[0-9]+}} vp;
-// CHECK-NEXT:{{ {4}$}}
-// CHECK-NEXT:    /* initialization with drs range */
+// CHECK-LABEL:static void _main_gen_init_sym_vp(void)
+// CHECK:    /* initialization with drs range */
 // CHECK-NEXT:    {
 // CHECK-NEXT:        {
 // CHECK-NEXT:            static __QVT__SINT8 _main_gen_tmp_[[VP:[0-9]+]];

@@ -1,9 +1,10 @@
 // A variable gets one init function however often the main asks for it, and variables of one
 // type share the type's init function. The next file that needs that function only declares
-// it. The temporaries are numbered on across variables.
+// it. The temporaries are numbered on across variables. A variable that nothing reads gets a
+// comment and no function.
 // RUN: rm -rf %t && mkdir -p %t/out
 // RUN: qvt-cfront %s -o %t/p.ir
-// RUN: qvt-stubber -stubber -main-generator -variables-written-before-loop custom=first,second,p1,p2 -variables-written-in-loop custom=first -functions-called-in-loop custom= -stubs-dir %t/out %t/p.ir %t/o.ir 2> %t/err.txt
+// RUN: qvt-stubber -stubber -main-generator -variables-written-before-loop custom=first,second,p1,p2,unread -variables-written-in-loop custom=first -functions-called-in-loop custom= -stubs-dir %t/out %t/p.ir %t/o.ir 2> %t/err.txt
 // RUN: %FileCheck-exact %s --check-prefix=MAIN --input-file %t/out/__quorvanta_main.c
 // RUN: %FileCheck-exact %s --check-prefix=EXTERN --input-file %t/out/qvt_stubs_1.c
 // RUN: %cc-check %t/out/__quorvanta_main.c %t/out/qvt_stubs_1.c
@@ -12,6 +13,7 @@ struct cell { int v; struct cell *next; };
 struct cell first, second;
 extern struct cell outside;
 int *p1, *p2;
+int unread;
 int use(void) { return first.v + second.v + outside.v + *p1 + *p2; }
 
 // MAIN-LABEL:/* Definition of init procedures */
@@ -63,16 +65,7 @@ int use(void) { return first.v + second.v + outside.v + *p1 + *p2; }
 // MAIN-NEXT:        {
 // MAIN-NEXT:            static __QVT__SINT32 _main_gen_tmp_0[ARRAY_NBELEM(__QVT__SINT32)];
 // MAIN-NEXT:            __QVT__UINT64 _i_main_gen_tmp_1;
-// MAIN-NEXT:            for (_i_main_gen_tmp_1 = 0; _i_main_gen_tmp_1 < ARRAY_NBELEM(__QVT__SINT32); _i_main_gen_tmp_1++)
-// MAIN-NEXT:            {
-// MAIN-NEXT:                _main_gen_tmp_0[_i_main_gen_tmp_1] = _main_gen_init_g[[INT]]();
-// MAIN-NEXT:            }
-// MAIN-NEXT:            p1 = QVT_TRUE() ? 0 : &_main_gen_tmp_0[ARRAY_NBELEM(__QVT__SINT32) / 2];
-// MAIN-NEXT:        }
-// MAIN-NEXT:    }
-// MAIN-NEXT:}
-// MAIN-EMPTY:
-// MAIN-NEXT:static void _main_gen_init_sym_p2(void)
+// MAIN:static void _main_gen_init_sym_p2(void)
 // MAIN-NEXT:{
 // MAIN-NEXT:    extern __QVT__g__[[PINT]] p2;
 // MAIN-NEXT:{{ {4}$}}
@@ -82,18 +75,10 @@ int use(void) { return first.v + second.v + outside.v + *p1 + *p2; }
 // MAIN-NEXT:        {
 // MAIN-NEXT:            static __QVT__SINT32 _main_gen_tmp_2[ARRAY_NBELEM(__QVT__SINT32)];
 // MAIN-NEXT:            __QVT__UINT64 _i_main_gen_tmp_3;
-// MAIN-NEXT:            for (_i_main_gen_tmp_3 = 0; _i_main_gen_tmp_3 < ARRAY_NBELEM(__QVT__SINT32); _i_main_gen_tmp_3++)
-// MAIN-NEXT:            {
-// MAIN-NEXT:                _main_gen_tmp_2[_i_main_gen_tmp_3] = _main_gen_init_g[[INT]]();
-// MAIN-NEXT:            }
-// MAIN-NEXT:            p2 = QVT_TRUE() ? 0 : &_main_gen_tmp_2[ARRAY_NBELEM(__QVT__SINT32) / 2];
-// MAIN-NEXT:        }
-// MAIN-NEXT:    }
-// MAIN-NEXT:}
-// MAIN-EMPTY:
-// MAIN-EMPTY:
-// MAIN-NEXT:/* Definition of functions */
 // MAIN-NOT:_main_gen_init_sym_{{.*}}(void)
+// MAIN-LABEL:    /* Initialization of global variables */
+// MAIN:    /* init for variable unread : useless (never read) */
+// MAIN-EMPTY:
 // MAIN-LABEL:        /* Re-initialization of global variables */
 // MAIN-EMPTY:
 // MAIN-NEXT:        /* init for variable first */

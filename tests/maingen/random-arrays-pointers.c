@@ -34,36 +34,10 @@ int use(void) { return table[0] + grid[1][2] + handler(1) + (opaque != 0) + pair
 // CHECK-NEXT: * _stub_p_g_[[FN:[0-9]+]]
 // CHECK-NEXT: */
 
-// CHECK-LABEL:/* Definition of init procedures */
+// CHECK-LABEL:/* Definition of variables init procedures */
 // CHECK-EMPTY:
-// CHECK-NEXT:extern __QVT__SINT32 _main_gen_init_g[[INT]](void);
-// CHECK-EMPTY:
-// CHECK-NEXT:extern __QVT__SINT8 _main_gen_init_g[[SCHAR]](void);
-// CHECK-EMPTY:
-// CHECK-NEXT:__QVT__SINT8 _main_gen_init_g[[SCHAR]](void)
-// CHECK-NEXT:{
-// CHECK-NEXT:    __QVT__SINT8 x;
-// CHECK-NEXT:    /* base type */
-// CHECK-NEXT:    x = qvt_random_g_[[SCHAR]];
-// CHECK-NEXT:    return x;
-// CHECK-NEXT:}
-// CHECK-EMPTY:
-// CHECK-NEXT:__QVT__SINT32 _main_gen_init_g[[INT]](void)
-// CHECK-NEXT:{
-// CHECK-NEXT:    __QVT__SINT32 x;
-// CHECK-NEXT:    /* base type */
-// CHECK-NEXT:    x = qvt_random_g_[[INT]];
-// CHECK-NEXT:    return x;
-// CHECK-NEXT:}
-// CHECK-EMPTY:
-// CHECK-EMPTY:
-// CHECK-NEXT:/* Definition of variables init procedures */
-// CHECK-EMPTY:
-// CHECK-NEXT:static void _main_gen_init_sym_table(void)
-// CHECK-NEXT:{
-// CHECK-NEXT:    extern __QVT__g__{{[0-9]+}} table;
-// CHECK-NEXT:{{ {4}$}}
-// CHECK-NEXT:    /* initialization with random value */
+// CHECK-LABEL:static void _main_gen_init_sym_table(void)
+// CHECK:    /* initialization with random value */
 // CHECK-NEXT:    {
 // CHECK-NEXT:        { /* array type */
 // CHECK-NEXT:            __QVT__UINT64 _main_gen_tmp_0_0;
@@ -75,13 +49,8 @@ int use(void) { return table[0] + grid[1][2] + handler(1) + (opaque != 0) + pair
 // CHECK-NEXT:            }
 // CHECK-NEXT:        }
 // CHECK-NEXT:    }
-// CHECK-NEXT:}
-// CHECK-EMPTY:
-// CHECK-NEXT:static void _main_gen_init_sym_grid(void)
-// CHECK-NEXT:{
-// CHECK-NEXT:    extern __QVT__g__{{[0-9]+}} grid;
-// CHECK-NEXT:{{ {4}$}}
-// CHECK-NEXT:    /* initialization with random value */
+// CHECK-LABEL:static void _main_gen_init_sym_grid(void)
+// CHECK:    /* initialization with random value */
 // CHECK-NEXT:    {
 // CHECK-NEXT:        { /* array type */
 // CHECK-NEXT:            __QVT__UINT64 _main_gen_tmp_1_0;
@@ -98,24 +67,14 @@ int use(void) { return table[0] + grid[1][2] + handler(1) + (opaque != 0) + pair
 // CHECK-NEXT:            }
 // CHECK-NEXT:        }
 // CHECK-NEXT:    }
-// CHECK-NEXT:}
-// CHECK-EMPTY:
-// CHECK-NEXT:static void _main_gen_init_sym_handler(void)
-// CHECK-NEXT:{
-// CHECK-NEXT:    extern __QVT__g__{{[0-9]+}} handler;
-// CHECK-NEXT:{{ {4}$}}
-// CHECK-NEXT:    /* initialization with random value */
+// CHECK-LABEL:static void _main_gen_init_sym_handler(void)
+// CHECK:    /* initialization with random value */
 // CHECK-NEXT:    {
 // CHECK-NEXT:        /* function pointer */
 // CHECK-NEXT:        handler = QVT_TRUE() ? 0 : _stub_p_g_[[FN]];
 // CHECK-NEXT:    }
-// CHECK-NEXT:}
-// CHECK-EMPTY:
-// CHECK-NEXT:static void _main_gen_init_sym_opaque(void)
-// CHECK-NEXT:{
-// CHECK-NEXT:    extern __QVT__g__{{[0-9]+}} opaque;
-// CHECK-NEXT:{{ {4}$}}
-// CHECK-NEXT:    /* initialization with random value */
+// CHECK-LABEL:static void _main_gen_init_sym_opaque(void)
+// CHECK:    /* initialization with random value */
 // CHECK-NEXT:    {
 // CHECK-NEXT:        /* pointer */
 // CHECK-NEXT:        {
@@ -128,13 +87,8 @@ int use(void) { return table[0] + grid[1][2] + handler(1) + (opaque != 0) + pair
 // CHECK-NEXT:            opaque = QVT_TRUE() ? 0 : &_main_gen_tmp_2[ARRAY_NBELEM(__QVT__SINT8) / 2];
 // CHECK-NEXT:        }
 // CHECK-NEXT:    }
-// CHECK-NEXT:}
-// CHECK-EMPTY:
-// CHECK-NEXT:static void _main_gen_init_sym_pairs(void)
-// CHECK-NEXT:{
-// CHECK-NEXT:    extern __QVT__g__{{[0-9]+}} pairs;
-// CHECK-NEXT:{{ {4}$}}
-// CHECK-NEXT:    /* initialization with random value */
+// CHECK-LABEL:static void _main_gen_init_sym_pairs(void)
+// CHECK:    /* initialization with random value */
 // CHECK-NEXT:    {
 // CHECK-NEXT:        { /* array type */
 // CHECK-NEXT:            __QVT__UINT64 _main_gen_tmp_4_0;
@@ -146,13 +100,8 @@ int use(void) { return table[0] + grid[1][2] + handler(1) + (opaque != 0) + pair
 // CHECK-NEXT:            }
 // CHECK-NEXT:        }
 // CHECK-NEXT:    }
-// CHECK-NEXT:}
-// CHECK-EMPTY:
-// CHECK-NEXT:static void _main_gen_init_sym_rows(void)
-// CHECK-NEXT:{
-// CHECK-NEXT:    extern __QVT__g__{{[0-9]+}} rows;
-// CHECK-NEXT:{{ {4}$}}
-// CHECK-NEXT:    /* initialization with random value */
+// CHECK-LABEL:static void _main_gen_init_sym_rows(void)
+// CHECK:    /* initialization with random value */
 // CHECK-NEXT:    {
 // CHECK-NEXT:        /* pointer */
 // CHECK-NEXT:        {
