@@ -1,7 +1,6 @@
-// Variables with an "init" range: without a generated main they are initialised by
-// _data_range_init in the main file; a generated main initialises them itself, also when no
-// list names them (then without a console line), and -no-drs-init drops the initialisation of
-// the variables written before the loop. A parameter with a range gets it in a block of its own.
+// Variables with an "init" range: without a generated main _data_range_init initialises them;
+// a generated main does, also when no list names them (then with no console line), and
+// -no-drs-init drops the initialisation of the variables written before the loop.
 // RUN: rm -rf %t && mkdir -p %t/alone %t/gen %t/nodrs
 // RUN: qvt-cfront %s -o %t/p.ir
 // RUN: qvt-stubber -stubber -drs-gen -drs-file %S/Inputs/drs-init-ranges.txt -stubs-dir %t/alone %t/p.ir %t/o.ir 2> %t/err.txt
@@ -15,7 +14,7 @@
 
 int speed;
 int other;
-int work(int level) { return speed + other + level; }
+int work(void) { return speed + other; }
 
 // ALONE-LABEL:/* DRS initializations */
 // ALONE-EMPTY:
@@ -28,24 +27,6 @@ int work(int level) { return speed + other + level; }
 // ALONE-EMPTY:
 // ALONE-NOT:{{.}}
 
-// GEN-LABEL:static void _main_gen_call_work(void)
-// GEN-NEXT:{
-// GEN-NEXT:    extern __QVT__SINT32 work(__QVT__SINT32);
-// GEN-EMPTY:
-// GEN-NEXT:    __QVT__SINT32 __ret__;
-// GEN-NEXT:    __QVT__SINT32 __arg__0;
-// GEN-NEXT:{{ {4}$}}
-// GEN-NEXT:    {
-// GEN-NEXT:        __QVT__SINT32 [[TMP:_main_gen_tmp_[0-9]+]];
-// GEN-NEXT:        [[TMP]] = qvt_random_g_{{[0-9]+}};
-// GEN-NEXT:        unchecked_assert([[TMP]] >= 1);
-// GEN-NEXT:        unchecked_assert([[TMP]] <= 5);
-// GEN-NEXT:        __arg__0 = [[TMP]];
-// GEN-NEXT:    }
-// GEN-NEXT:{{ {4}$}}
-// GEN-NEXT:    /* call it */
-// GEN-NEXT:    __ret__ = work(__arg__0);
-// GEN-NEXT:}
 // GEN-LABEL:void main(void)
 // GEN-NEXT:{
 // GEN-NEXT:    /* Initialization of global variables */

@@ -37,13 +37,7 @@ void start(void) { speed = speed / 2; }
 // FN-NEXT:    /* Call of initialization functions */
 // FN-EMPTY:
 // FN-NEXT:    /* call of initialization function start */
-// FN-NEXT:    { /* call it */
-// FN-NEXT:        extern __QVT__VOID start(__QVT__VOID);
-// FN-EMPTY:
-// FN-NEXT:        start();
-// FN-NEXT:    }
-// FN-NEXT:{{ {4}$}}
-// FN-NEXT:    while (QVT_TRUE())
+// FN:    while (QVT_TRUE())
 // FN-NEXT:    {
 // FN-NEXT:{{ {8}$}}
 // FN-NEXT:        /* Initialization of global variables */

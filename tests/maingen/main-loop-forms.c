@@ -27,11 +27,7 @@ int level;
 void rise(void) { level++; }
 void fall(void) { level--; }
 
-// CONSOLE:Generating the Main ...
-// CONSOLE-EMPTY:
-// CONSOLE-NEXT:Generating init for variable: level
-// CONSOLE-NEXT:Generating call to function: rise
-// CONSOLE-NEXT:Generating call to function: fall
+// CONSOLE:Generating call to function: fall
 // CONSOLE-NOT:{{.}}
 
 // CONSOLE-NONE:Generating call to function: fall
@@ -80,19 +76,10 @@ void fall(void) { level--; }
 // ALL-NEXT:        /* call of function rise */
 // PLAIN-NEXT:        if (QVT_TRUE())
 // INSTR-NEXT:        if (__qvt_alternative__ % 2 == 0)
-// ALL-NEXT:        { /* call it */
-// ALL-NEXT:            extern __QVT__VOID rise(__QVT__VOID);
-// ALL-EMPTY:
-// ALL-NEXT:            rise();
-// ALL-NEXT:        }
-// ALL-NEXT:{{ {8}$}}
-// ALL-NEXT:        /* call of function fall */
+// ALL:        /* call of function fall */
 // PLAIN-NEXT:        if (QVT_TRUE())
 // INSTR-NEXT:        if (__qvt_alternative__ % 2 == 1)
-// ALL-NEXT:        { /* call it */
-// ALL-NEXT:            extern __QVT__VOID fall(__QVT__VOID);
-// ALL-EMPTY:
-// ALL-NEXT:            fall();
+// ALL:            fall();
 // ALL-NEXT:        }
 // ALL-NEXT:{{ {8}$}}
 // PLAIN-NEXT:    }
