@@ -1,6 +1,6 @@
-// Bounds of every leaf type: the verdict and status of the check, and the
-// literals that an accepted entry is normalised to (twice, which must change
-// nothing more). Messages and the log are checked end to end by the lit suite.
+// Bounds of leaf types: the verdict and status of the check, and the literals
+// that an accepted entry is normalised to (twice, which must change nothing
+// more). Messages and the log are checked end to end by the lit suite.
 #include "drs/drs_values.h"
 #include "driver/options.h"
 #include "types/ir_test_fixture.h"
@@ -9,8 +9,7 @@
 
 namespace {
 
-enum leaf { UCHAR, SCHAR, INT, UINT24, INT64, UINT64, INT128, ENUM, FLOAT, DOUBLE, LDOUBLE, CHAR_PTR, INT_PTR,
-            FUNC_PTR, STRUCT };
+enum leaf { SCHAR, INT, UINT24, INT64, UINT64, INT128, ENUM, FLOAT, DOUBLE, LDOUBLE, CHAR_PTR, STRUCT };
 
 struct row {
   leaf type;
@@ -18,14 +17,13 @@ struct row {
   bool accepted;
   unsigned status;
   const char *norm_min = nullptr, *norm_max = nullptr; // after normalising, when accepted
-  bool instrum = false, forty_bits = false;
+  bool instrum = false;
 };
 
 class DrsValues : public ir_test {
 protected:
   type_node *make(leaf l) {
     switch (l) {
-    case UCHAR: return type_unsigned_char;
     case SCHAR: return type_signed_char;
     case INT: return type_signed;
     case UINT24: return b->int_of(24, false);
@@ -37,71 +35,36 @@ protected:
     case DOUBLE: return type_double;
     case LDOUBLE: return type_longdouble;
     case CHAR_PTR: return b->ptr(type_char);
-    case INT_PTR: return b->ptr(type_signed);
-    case FUNC_PTR: return b->ptr(b->func(type_void, {}));
     case STRUCT: return b->struct_of("s", {{"x", type_signed}});
     }
     return nullptr;
   }
 };
 
+// The cases the log of the lit suite can't show: refused forms, the edges of
+// each width, pointers under -instrument, and normalising twice.
 const row rows[] = {
-  // Integer forms: hexadecimal with a sign, octal, decimal, floats rounded outward.
-  {UCHAR, "0x10", "0X1f", true, 0, "16", "31"},
   {SCHAR, "-0x10", "010", true, 0, "-16", "8"},
-  {INT, "1.5", "1.5", true, 0, "1", "2"},
-  {INT, "-1.5", "-1.5", true, 0, "-2", "-1"},
-  {INT, "-0.5", "-0.5", true, 0, "-1", "0"},
   {INT, "2.0", "2e0", true, 0, "2", "2"},
   {INT, "+7", "08", true, 0, "7", "8"},
-  // Statuses, in the order they are tested.
   {INT, "", "5", false, 1},
   {INT, "0", nullptr, false, 2},
-  {INT, "1e400", "5", false, 3},
-  {INT, "0", "1e400", false, 4},
-  {INT, "enum_min", "0", false, 3},
   {INT, "1x", "0", false, 3},
   {INT, "0", "+-1", false, 4},
-  {UCHAR, "300", "300", false, 5},
-  {UCHAR, "0", "300", false, 6},
   {SCHAR, "-129", "0", false, 5},
-  {UCHAR, "10", "5", false, 7},
-  // Widths and keywords.
   {UINT24, "min", "max", true, 0, "0", "16777215"},
-  {INT64, "-0x8000000000000000", "0x7fffffffffffffff", true, 0, "-9223372036854775808", "9223372036854775807"},
   {INT64, "min", "0x8000000000000000", false, 6},
-  {UINT64, "0", "18446744073709551615", true, 0, "0", "18446744073709551615"},
   {UINT64, "-1", "0", false, 5},
   {INT128, "min", "max", true, 0, "-170141183460469231731687303715884105728",
    "170141183460469231731687303715884105727"},
-  {ENUM, "min", "max", true, 0, "-2147483648", "2147483647"},
   {ENUM, "enum_min", "enum_max", true, 0, "-1", "5"},
-  // Floats by width; -40bits-longdouble makes every float single.
-  {FLOAT, "min", "max", true, 0, "-3.402823466E+38F", "3.402823466E+38F"},
-  {FLOAT, "1e39", "1e39", false, 5},
-  {FLOAT, "0", "1e39", false, 6},
-  {FLOAT, "abc", "1", false, 3},
   {FLOAT, "0", "1.5.", false, 4},
   {FLOAT, "2.5f", "1", false, 7},
   {FLOAT, "enum_min", "1", false, 3},
-  {DOUBLE, "min", "1e39", true, 0, "-1.7976931348623157e+308", "1e39"},
-  {DOUBLE, "0", "1e39", false, 6, nullptr, nullptr, false, true},
   {DOUBLE, "1e309", "0", false, 3},
-  // Long double: a value beyond a double is judged by its form.
   {LDOUBLE, "min", "max", true, 0, "-1.18973e+4932L", "1.18973e+4932L"},
-  {LDOUBLE, "-1e4000", "0", true, 3, "-1e4000", "0"},
-  {LDOUBLE, "0", "0x1.8p20000L", true, 4, "0", "0x1.8p20000L"},
   {LDOUBLE, "1e4000", "abc", false, 4},
-  {LDOUBLE, "abc", "1", false, 3},
-  {LDOUBLE, "1", "0.5L", false, 7},
-  // Pointers: min says whether null is possible, max how many elements.
-  {CHAR_PTR, "1", "max", true, 0, "1", "134217726"},
   {CHAR_PTR, "min", "max", true, 0, "0", "32", true},
-  {INT_PTR, "0", "max", true, 0, "0", "33554431"},
-  {FUNC_PTR, "1", "max", true, 0, "1", "1"},
-  {CHAR_PTR, "-1", "max", false, 5},
-  {CHAR_PTR, "0", "2147483648", false, 6},
-  {CHAR_PTR, "5", "2", false, 7},
   {CHAR_PTR, "0", "min", true, 0, "0", "0"},
   {STRUCT, "0", "1", false, 0},
 };
@@ -111,7 +74,6 @@ TEST_F(DrsValues, CheckAndNormaliseEveryLeaf) {
     SCOPED_TRACE(std::string(r.min ? r.min : "(null)") + " .. " + (r.max ? r.max : "(null)") + " leaf " +
                  std::to_string(r.type));
     flag_instrum = r.instrum;
-    flag_40bits_longdouble = r.forty_bits;
     type_node *type = make(r.type);
     unsigned status = 0;
     EXPECT_EQ(drs_check_values(type, r.min, r.max, &status), r.accepted);
@@ -125,7 +87,6 @@ TEST_F(DrsValues, CheckAndNormaliseEveryLeaf) {
       }
     }
     flag_instrum = false;
-    flag_40bits_longdouble = false;
   }
 }
 
