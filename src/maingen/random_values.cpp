@@ -68,7 +68,11 @@ string_list *gen_init_proc_call(const char *lvalue, type_node *type)
 static void random_pointer(string_list *result, const char *lvalue, ptr_type *type, bool non_null)
 {
   type_node *target = type->ref_type()->unqual();
-  if (target->op() == TYPE_VOID)
+  // A struct that the program only declares (FILE's markers in the C library) has no fields and
+  // no size to make an array of: its memory is taken as bytes, like that behind a void pointer.
+  bool opaque = (target->op() == TYPE_STRUCT || target->op() == TYPE_UNION) &&
+                static_cast<struct_type *>(target)->num_fields() == 0;
+  if (target->op() == TYPE_VOID || opaque)
     target = type_signed_char;
   if (target->op() == TYPE_FUNC) {
     const char *stub = stub_for_function_pointer(static_cast<func_type *>(target), -1);
