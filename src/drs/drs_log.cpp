@@ -10,24 +10,27 @@
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
+#include <string>
 
-// "#N" becomes "argN+1", at the first "#" only.
-static char *name_with_argument(const char *name) {
+// The name as the log shows it: the first "#N" becomes "argN+1", and every
+// "*" becomes "[]". Built in one pass, so that a long name costs one copy.
+static std::string log_name(const char *name) {
+  std::string shown;
   const char *hash = strchr(name, '#');
-  if (!hash)
-    return bufprintf("%s", name);
-  const char *digits_end = hash + 1;
-  long long number = 0;
-  for (; *digits_end >= '0' && *digits_end <= '9'; ++digits_end)
-    if (number < 1000000000000LL)
-      number = number * 10 + (*digits_end - '0');
-  return bufprintf("%.*sarg%lld%s", (int)(hash - name), name, number + 1, digits_end);
-}
-
-static char *name_with_brackets(char *name) {
-  for (char *star = strchr(name, '*'); star; star = strchr(name, '*'))
-    name = bufprintf("%.*s[]%s", (int)(star - name), name, star + 1);
-  return name;
+  for (const char *c = name; *c; ++c) {
+    if (c == hash) {
+      long long number = 0;
+      for (; c[1] >= '0' && c[1] <= '9'; ++c)
+        if (number < 1000000000000LL)
+          number = number * 10 + (c[1] - '0');
+      shown += "arg" + std::to_string(number + 1);
+    } else if (*c == '*') {
+      shown += "[]";
+    } else {
+      shown += *c;
+    }
+  }
+  return shown;
 }
 
 static const char *pointer_kind_text(unsigned kind) {
@@ -53,7 +56,7 @@ void drs_log_entry(drs_entry *entry) {
   if (drs_no_log)
     return;
   fputs(flag_instrum ? "instrumenting drs: " : "data-range-specifications: ", stderr);
-  fprintf(stderr, "'%s' ", name_with_brackets(name_with_argument(entry->name)));
+  fprintf(stderr, "'%s' ", log_name(entry->name).c_str());
   if (!is_pointer_entry(entry)) {
     fprintf(stderr, "in [%s..%s] ", entry->min, entry->max);
   } else {
