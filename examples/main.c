@@ -29,13 +29,15 @@ static void print_sensor(struct sensor *s, void *data)
     printf("%s: %d\n", s->name, s->last.raw);
 }
 
-int main(void)
+int main(int argc, char **argv)
 {
     struct bus *b = malloc(sizeof *b);
     struct sensor temp, pressure;
     int total = 0;
     if (!b)
         return 1;
+    if (argc > 1 && argv[1][0] >= '0' && argv[1][0] <= '9')
+        station_id = argv[1][0] - '0';
     memset(b, 0, sizeof *b);
     b->id = 1;
     b->transfer = bus_transfer;

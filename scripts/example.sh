@@ -21,8 +21,8 @@ status=0
 cat "$out/stubber.txt" >&2
 # Every generated file compiles with gcc and clang, the support header forced in.
 for f in "$out"/stubs/*.c; do
-  gcc -fsyntax-only -std=gnu11 -Itarget -include target/qvt_target.h -Wno-main -w "$f"
-  clang-14 -fsyntax-only -std=gnu11 -Itarget -include target/qvt_target.h -Wno-main-return-type -w "$f"
+  gcc -fsyntax-only -std=gnu11 -ffreestanding -Itarget -include target/qvt_target.h -w "$f"
+  clang-14 -fsyntax-only -std=gnu11 -ffreestanding -Itarget -include target/qvt_target.h -w "$f"
 done
 echo "Generated in $out/stubs (stub mode exit status $status), all compiled with gcc and clang:"
 ls -l "$out/stubs"
@@ -40,7 +40,7 @@ lib_status=0
 cat "$lib/stubber.txt" >&2
 # The generated main compiles beside the stubs, freestanding (its main is void main(void)).
 for f in "$lib"/stubs/*.c; do
-  gcc -fsyntax-only -std=gnu11 -ffreestanding -Itarget -include target/qvt_target.h -Wno-main -w "$f"
+  gcc -fsyntax-only -std=gnu11 -ffreestanding -Itarget -include target/qvt_target.h -w "$f"
   clang-14 -fsyntax-only -std=gnu11 -ffreestanding -Itarget -include target/qvt_target.h -w "$f"
 done
 echo "Library closed in $lib/stubs (stub mode exit status $lib_status), all compiled with gcc and clang:"

@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
 # Installs the Debian packages the project needs (only those missing), then configures and builds
-# both configurations: build/ (optimised, with assertions) and build-asan/ (ASan + UBSan).
-# Usage: scripts/setup.sh [--no-asan]
+# with clang: build/ (optimised, with assertions) and build-asan/ (ASan + UBSan); with --gcc also
+# build-gcc/ (optimised, with gcc). Warnings are errors in all of them.
+# Usage: scripts/setup.sh [--no-asan] [--gcc]
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
@@ -28,17 +29,31 @@ if [ ${#missing[@]} -gt 0 ]; then
   DEBIAN_FRONTEND=noninteractive $sudo_cmd apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null
 fi
 
+asan=1; gcc=0
+for arg in "$@"; do
+  case $arg in
+    --no-asan) asan=0 ;;
+    --gcc) gcc=1 ;;
+    *) echo "setup: unknown option $arg" >&2; exit 2 ;;
+  esac
+done
+
 jobs=$(nproc)
+# configure DIR C_COMPILER CXX_COMPILER CMAKE_ARGS...: the compilers count for a new DIR only.
 configure() {
-  local dir=$1; shift
+  local dir=$1 cc=$2 cxx=$3; shift 3
   if [ ! -f "$dir/build.ninja" ]; then
-    cmake -S . -B "$dir" -G Ninja "$@" >/dev/null
+    CC=$cc CXX=$cxx cmake -S . -B "$dir" -G Ninja "$@" >/dev/null
+  else
+    cmake -S . -B "$dir" "$@" >/dev/null
   fi
   cmake --build "$dir" -j "$jobs"
 }
 
-export CC=clang-14 CXX=clang++-14
-configure build -DCMAKE_BUILD_TYPE=RelWithDebInfo
-if [ "${1:-}" != "--no-asan" ]; then
-  configure build-asan -DCMAKE_BUILD_TYPE=Debug -DQVT_SANITIZE=ON
+configure build clang-14 clang++-14 -DCMAKE_BUILD_TYPE=RelWithDebInfo -DQVT_WERROR=ON
+if [ $asan = 1 ]; then
+  configure build-asan clang-14 clang++-14 -DCMAKE_BUILD_TYPE=Debug -DQVT_SANITIZE=ON -DQVT_WERROR=ON
+fi
+if [ $gcc = 1 ]; then
+  configure build-gcc gcc g++ -DCMAKE_BUILD_TYPE=Release -DQVT_WERROR=ON
 fi

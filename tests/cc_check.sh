@@ -4,8 +4,8 @@ gcc=$1; clang=$2; flags=$3; shift 3
 status=0
 for f in "$@"; do
   # shellcheck disable=SC2086
-  "$gcc" $flags -Wno-main "$f" || status=1
+  "$gcc" $flags "$f" || status=1
   # shellcheck disable=SC2086
-  "$clang" $flags -Wno-main-return-type "$f" || status=1
+  "$clang" $flags "$f" || status=1
 done
 exit $status

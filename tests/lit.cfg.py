@@ -27,7 +27,9 @@ config.substitutions.append(("%target_dir", target_dir))
 config.substitutions.append(("%gcc", config.qvt_gcc))
 config.substitutions.append(("%clang", config.qvt_clang))
 # %cc-check FILES...: the generated C must compile with gcc and with clang, the support header forced in.
-cc_flags = "-fsyntax-only -std=gnu11 -I %s -include %s/qvt_target.h" % (target_dir, target_dir)
+# Freestanding, as generated files are compiled for analysis: the entry point may then call a
+# `main(int, signed char **)` and the generated `void main(void)` is legal.
+cc_flags = "-fsyntax-only -std=gnu11 -ffreestanding -I %s -include %s/qvt_target.h" % (target_dir, target_dir)
 config.substitutions.append(("%cc-check",
     "%s/tests/cc_check.sh '%s' '%s' '%s'" % (config.qvt_source_root, config.qvt_gcc, config.qvt_clang, cc_flags)))
 

@@ -178,7 +178,9 @@ TEST_F(Collection, LoopFunctions) {
     collect(nullptr, nullptr, nullptr, nullptr, nullptr, c.in, c.before, c.after);
     EXPECT_EQ(names_of(procs_in_loop), c.want_in) << c.in;
     EXPECT_EQ(names_of(procs_before_loop), c.want_before) << c.in;
-    if (c.after) EXPECT_EQ(names_of(procs_after_loop), names{c.after});
+    if (c.after) {
+      EXPECT_EQ(names_of(procs_after_loop), names{c.after});
+    }
   }
 }
 

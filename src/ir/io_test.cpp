@@ -280,7 +280,9 @@ TEST_F(io, ids_stay_unique_after_reading) {
         p->flush_proc();
     }
     for (type_node_list_e *e = global_st->types()->head(); e; e = e->next())
-        if (e->contents != t) EXPECT_NE(e->contents->type_id(), t->type_id());
+        if (e->contents != t) {
+            EXPECT_NE(e->contents->type_id(), t->type_id());
+        }
 }
 
 TEST_F(io, install_type_shares_equal_types) {
