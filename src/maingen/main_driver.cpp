@@ -112,6 +112,91 @@ bool has_own_c_main()
   return main_proc && main_proc->src_lang() == src_c;
 }
 
+// The five sections of the main, each a list of pieces; never deleted, as the prologue's pieces.
+struct main_sections {
+  string_list *init = new string_list;   // vars_before_loop and the ranged variables
+  string_list *reinit = new string_list; // vars_in_loop
+  string_list *calls = new string_list;  // procs_in_loop
+  string_list *before = new string_list; // procs_before_loop
+  string_list *after = new string_list;  // procs_after_loop
+};
+
+void build_sections(main_sections &text)
+{
+  std::unordered_set<sym_node *> ranged = symbol_set(drs_init_vars);
+  if (!flag_no_drs_init)
+    add_variable_inits(text.init, vars_before_loop, ranged);
+  // Ranged variables that no list names still get their range, with no console line.
+  if (drs_init_vars && !drs_init_vars->is_empty()) {
+    std::unordered_set<sym_node *> written = symbol_set(vars_before_loop);
+    written.merge(symbol_set(vars_in_loop));
+    for (sym_node_list_e *e = drs_init_vars->head(); e; e = e->next())
+      if (!written.count(e->contents))
+        move_pieces(text.init, init_variable(static_cast<var_sym *>(e->contents), false, true));
+  }
+  add_variable_inits(text.reinit, vars_in_loop, ranged);
+
+  int count = procs_in_loop ? procs_in_loop->count() : 0;
+  int index = 0;
+  if (procs_in_loop)
+    for (sym_node_list_e *e = procs_in_loop->head(); e; e = e->next(), index++) {
+      proc_sym *proc = static_cast<proc_sym *>(e->contents);
+      console_add("Generating call to function: %s\n", proc->name());
+      add_piece(text.calls, "/* call of function %s */\n", proc->name());
+      if (flag_instrum)
+        add_piece(text.calls, "if (__qvt_alternative__ %% %d == %d)\n", count, index);
+      else
+        add_piece(text.calls, "if (QVT_TRUE())\n");
+      move_pieces(text.calls, gen_function_call(proc));
+      add_piece(text.calls, "\n");
+    }
+  if (procs_before_loop)
+    add_edge_calls(text.before, procs_before_loop, "initialization");
+  if (procs_after_loop)
+    add_edge_calls(text.after, procs_after_loop, "finalization");
+}
+
+// The main itself, in the open main file. bound: below 1 an endless loop, 1 no loop (a plain
+// block), above 1 a loop on a counter.
+void write_main(const main_sections &text, int bound)
+{
+  bool bounded = bound > 1;
+  emit_line("\n/* Main */\n\n");
+  emit_line("void main(void)\n");
+  emit_line("{\n");
+  bool init_before = !flag_init_in_loop || procs_before_loop;
+  if (init_before)
+    emit_section("/* Initialization of global variables */\n\n", text.init);
+  if (init_before && procs_before_loop)
+    emit_section("/* Call of initialization functions */\n\n", text.before);
+  if (bounded)
+    emit_line("unsigned int __qvt__loop__variable = 0;\n");
+
+  if (bound < 1)
+    emit_line(flag_instrum ? "do\n" : "while (QVT_TRUE())\n");
+  else if (bounded)
+    emit_line(flag_instrum ? "do\n" : format_text("while (__qvt__loop__variable < %u)\n", (unsigned)bound));
+  emit_line("{\n");
+  emit_line(flag_instrum ? "unsigned int __qvt_alternative__ = qvt_random_int;\n" : "\n");
+  if (bounded)
+    emit_line("__qvt__loop__variable++;\n");
+  if (flag_init_in_loop)
+    emit_section("/* Initialization of global variables */\n\n", text.init);
+  if (!text.reinit->is_empty())
+    emit_section("/* Re-initialization of global variables */\n\n", text.reinit);
+  emit_section("/* Call of functions */\n\n", text.calls);
+  if (!flag_instrum || bound == 1)
+    emit_line("}\n");
+  else if (bound < 1)
+    emit_line("} while (QVT_TRUE());\n");
+  else
+    emit_line(format_text("} while (__qvt__loop__variable < %u);\n", (unsigned)bound));
+
+  if (procs_after_loop)
+    emit_section("/* Call of finalization functions */\n\n", text.after);
+  emit_line("}\n");
+}
+
 } // namespace
 
 void generate_main()
@@ -131,85 +216,18 @@ void generate_main()
   }
   main_file_written = true;
 
-  // Never deleted, as the prologue's pieces.
-  string_list *init_lines = new string_list, *reinit_lines = new string_list, *call_lines = new string_list;
-  string_list *before_lines = new string_list, *after_lines = new string_list;
-  std::unordered_set<sym_node *> ranged = symbol_set(drs_init_vars);
-  if (!flag_no_drs_init)
-    add_variable_inits(init_lines, vars_before_loop, ranged);
-  // Ranged variables that no list names still get their range, with no console line.
-  if (drs_init_vars && !drs_init_vars->is_empty()) {
-    std::unordered_set<sym_node *> written = symbol_set(vars_before_loop);
-    written.merge(symbol_set(vars_in_loop));
-    for (sym_node_list_e *e = drs_init_vars->head(); e; e = e->next())
-      if (!written.count(e->contents))
-        move_pieces(init_lines, init_variable(static_cast<var_sym *>(e->contents), false, true));
-  }
-  add_variable_inits(reinit_lines, vars_in_loop, ranged);
-
-  int count = procs_in_loop ? procs_in_loop->count() : 0;
-  int index = 0;
-  if (procs_in_loop)
-    for (sym_node_list_e *e = procs_in_loop->head(); e; e = e->next(), index++) {
-      proc_sym *proc = static_cast<proc_sym *>(e->contents);
-      console_add("Generating call to function: %s\n", proc->name());
-      add_piece(call_lines, "/* call of function %s */\n", proc->name());
-      if (flag_instrum)
-        add_piece(call_lines, "if (__qvt_alternative__ %% %d == %d)\n", count, index);
-      else
-        add_piece(call_lines, "if (QVT_TRUE())\n");
-      move_pieces(call_lines, gen_function_call(proc));
-      add_piece(call_lines, "\n");
-    }
-  if (procs_before_loop)
-    add_edge_calls(before_lines, procs_before_loop, "initialization");
-  if (procs_after_loop)
-    add_edge_calls(after_lines, procs_after_loop, "finalization");
-
+  main_sections text;
+  build_sections(text);
   int bound = main_generator_bounded_loop;
-  bool bounded = bound > 1;
   if (bound == 1)
     console_add("\nMain without loop\n\n");
-  else if (bounded)
+  else if (bound > 1)
     console_add("\nMain loop bounded to %d iterations\n\n", bound);
   console_flush();
 
   open_output_file(stubs_dir_path("__quorvanta_main.c"));
   emit_prologue();
-  emit_line("\n/* Main */\n\n");
-  emit_line("void main(void)\n");
-  emit_line("{\n");
-  bool init_before = !flag_init_in_loop || procs_before_loop;
-  if (init_before)
-    emit_section("/* Initialization of global variables */\n\n", init_lines);
-  if (init_before && procs_before_loop)
-    emit_section("/* Call of initialization functions */\n\n", before_lines);
-  if (bounded)
-    emit_line("unsigned int __qvt__loop__variable = 0;\n");
-
-  if (bound < 1)
-    emit_line(flag_instrum ? "do\n" : "while (QVT_TRUE())\n");
-  else if (bounded)
-    emit_line(flag_instrum ? "do\n" : format_text("while (__qvt__loop__variable < %u)\n", (unsigned)bound));
-  emit_line("{\n");
-  emit_line(flag_instrum ? "unsigned int __qvt_alternative__ = qvt_random_int;\n" : "\n");
-  if (bounded)
-    emit_line("__qvt__loop__variable++;\n");
-  if (flag_init_in_loop)
-    emit_section("/* Initialization of global variables */\n\n", init_lines);
-  if (!reinit_lines->is_empty())
-    emit_section("/* Re-initialization of global variables */\n\n", reinit_lines);
-  emit_section("/* Call of functions */\n\n", call_lines);
-  if (!flag_instrum || bound == 1)
-    emit_line("}\n");
-  else if (bound < 1)
-    emit_line("} while (QVT_TRUE());\n");
-  else
-    emit_line(format_text("} while (__qvt__loop__variable < %u);\n", (unsigned)bound));
-
-  if (procs_after_loop)
-    emit_section("/* Call of finalization functions */\n\n", after_lines);
-  emit_line("}\n");
+  write_main(text, bound);
   close_output_file();
 }
 
