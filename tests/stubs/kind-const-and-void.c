@@ -1,16 +1,14 @@
-// Constant parameters (scalars by value, pointers to const data) and a pointer to void, for each kind.
+// Constant parameters (scalars by value, pointers to const data) and a pointer to void, for the default, clean and worst stubs.
 // RUN: rm -rf %t && mkdir -p %t/stubs
 // RUN: qvt-cfront %s -o %t/p.ir
 // RUN: qvt-stubber -stubber -stubs-dir %t/stubs %t/p.ir %t/p.out.ir 2> %t/err.txt
 // RUN: %FileCheck-exact %s --input-file %t/stubs/qvt_stubs_0.c
 // RUN: %cc-check %t/stubs/qvt_stubs_0.c %t/stubs/qvt_user_stubs.c
 
-#pragma QUORVANTA_PURE "c_pure"
 #pragma QUORVANTA_CLEAN "c_clean"
 #pragma QUORVANTA_WORST "c_worst"
 
 void c_default(int n, const char *s, void *v);
-void c_pure(int n, const char *s, void *v);
 void c_clean(int n, const char *s, void *v);
 void c_worst(int n, const char *s, void *v);
 
@@ -44,19 +42,6 @@ void c_worst(int n, const char *s, void *v);
 // CHECK-NEXT:            *p_addr = (__QVT__CHAR)qvt_random_char;
 // CHECK-NEXT:        }
 // CHECK-NEXT:    }
-// CHECK-EMPTY:
-// CHECK-NEXT:    return;
-// CHECK-NEXT:}
-
-// CHECK-LABEL: * c_pure
-// CHECK-NEXT: */
-// CHECK-EMPTY:
-// CHECK-NEXT:#pragma QUORVANTA_POLYMORPHIC "c_pure"
-// CHECK-EMPTY:
-// CHECK-EMPTY:
-// CHECK-NEXT:__QVT__VOID c_pure(__QVT__SINT32 P_0, __QVT__g__{{[0-9]+}} P_1, __QVT__g__{{[0-9]+}} P_2)
-// CHECK-NEXT:{
-// CHECK-NEXT:    /* function is pure */
 // CHECK-EMPTY:
 // CHECK-NEXT:    return;
 // CHECK-NEXT:}

@@ -1,20 +1,19 @@
-// Each stub kind on pointers to a struct, a union and an array.
+// The default and clean stubs on pointers to a struct, a union and an array, and on a struct
+// holding a pointer passed by value (its clean guard is in kind-struct-by-value-clean.c).
 // RUN: rm -rf %t && mkdir -p %t/stubs
 // RUN: qvt-cfront %s -o %t/p.ir
 // RUN: qvt-stubber -stubber -stubs-dir %t/stubs %t/p.ir %t/p.out.ir 2> %t/err.txt
 // RUN: %FileCheck-exact %s --input-file %t/stubs/qvt_stubs_0.c
 // RUN: %cc-check %t/stubs/qvt_stubs_0.c %t/stubs/qvt_user_stubs.c
 
-#pragma QUORVANTA_PURE "a_pure"
 #pragma QUORVANTA_CLEAN "a_clean"
-#pragma QUORVANTA_WORST "a_worst"
 
 struct s { int i; double d; };
 union u { char c; int i; };
 void a_default(struct s *p, union u *q, int (*r)[4]);
-void a_pure(struct s *p, union u *q, int (*r)[4]);
+struct holder { int n; char *text; };
+void a_value(struct holder h);
 void a_clean(struct s *p, union u *q, int (*r)[4]);
-void a_worst(struct s *p, union u *q, int (*r)[4]);
 
 // Only the clean stub needs random variables.
 // CHECK:static volatile int qvt_random_int;
@@ -78,15 +77,14 @@ void a_worst(struct s *p, union u *q, int (*r)[4]);
 // CHECK-NEXT:    return;
 // CHECK-NEXT:}
 
-// CHECK-LABEL: * a_pure
+// The default stub has only the comment for it.
+// CHECK-LABEL: * a_value
 // CHECK-NEXT: */
 // CHECK-EMPTY:
-// CHECK-NEXT:#pragma QUORVANTA_POLYMORPHIC "a_pure"
 // CHECK-EMPTY:
-// CHECK-EMPTY:
-// CHECK-NEXT:__QVT__VOID a_pure(__QVT__g__{{[0-9]+}} P_0, __QVT__g__{{[0-9]+}} P_1, __QVT__g__{{[0-9]+}} P_2)
+// CHECK-NEXT:__QVT__VOID a_value(struct holder P_0)
 // CHECK-NEXT:{
-// CHECK-NEXT:    /* function is pure */
+// CHECK-NEXT:    /* parameter 0 */
 // CHECK-EMPTY:
 // CHECK-NEXT:    return;
 // CHECK-NEXT:}
@@ -123,29 +121,3 @@ void a_worst(struct s *p, union u *q, int (*r)[4]);
 // CHECK-EMPTY:
 // CHECK-NEXT:    return;
 // CHECK-NEXT:}
-
-// CHECK-LABEL: * a_worst
-// CHECK-NEXT: */
-// CHECK-EMPTY:
-// CHECK-EMPTY:
-// CHECK-NEXT:__QVT__VOID a_worst(__QVT__g__{{[0-9]+}} P_0, __QVT__g__{{[0-9]+}} P_1, __QVT__g__{{[0-9]+}} P_2)
-// CHECK-NEXT:{
-// CHECK-NEXT:    __QVT__CHAR *ptr_1;
-// CHECK-NEXT:    __QVT__CHAR *ptr_2;
-// CHECK-NEXT:{{ {4}$}}
-// CHECK-NEXT:    /* parameter 0 - WORST mode */
-// CHECK-EMPTY:
-// CHECK-NEXT:    ptr_1 = (__QVT__CHAR *)&P_0;
-// CHECK-NEXT:    ptr_2 = (__QVT__CHAR *)&P_0;
-// CHECK-NEXT:{{ {4}$}}
-// CHECK-NEXT:    /* parameter 1 - WORST mode */
-// CHECK-EMPTY:
-// CHECK-NEXT:    ptr_1 = (__QVT__CHAR *)&P_1;
-// CHECK-NEXT:    ptr_2 = (__QVT__CHAR *)&P_1;
-// CHECK-NEXT:{{ {4}$}}
-// CHECK-NEXT:    /* parameter 2 - WORST mode */
-// CHECK-EMPTY:
-// CHECK-NEXT:    ptr_1 = (__QVT__CHAR *)&P_2;
-// CHECK-NEXT:    ptr_2 = (__QVT__CHAR *)&P_2;
-// CHECK-NEXT:{{ {4}$}}
-// CHECK-NEXT:    /* pointer effect - WORST mode */

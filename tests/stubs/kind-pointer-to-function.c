@@ -1,16 +1,14 @@
-// Each stub kind on a pointer to a function: the call through it.
+// The default, clean and worst stubs on a pointer to a function: the call through it.
 // RUN: rm -rf %t && mkdir -p %t/stubs
 // RUN: qvt-cfront %s -o %t/p.ir
 // RUN: qvt-stubber -stubber -stubs-dir %t/stubs %t/p.ir %t/p.out.ir 2> %t/err.txt
 // RUN: %FileCheck-exact %s --input-file %t/stubs/qvt_stubs_0.c
 // RUN: %cc-check %t/stubs/qvt_stubs_0.c %t/stubs/qvt_user_stubs.c
 
-#pragma QUORVANTA_PURE "f_pure"
 #pragma QUORVANTA_CLEAN "f_clean"
 #pragma QUORVANTA_WORST "f_worst"
 
 void f_default(void (*cb)(int, double));
-void f_pure(void (*cb)(int, double));
 void f_clean(void (*cb)(int, double));
 void f_worst(void (*cb)(int, double));
 
@@ -30,19 +28,6 @@ void f_worst(void (*cb)(int, double));
 // CHECK-NEXT:        P_0(__ARG__0, __ARG__1);
 // CHECK-NEXT:    }
 // CHECK-NEXT:{{ {4}$}}
-// CHECK-NEXT:    return;
-// CHECK-NEXT:}
-
-// CHECK-LABEL: * f_pure
-// CHECK-NEXT: */
-// CHECK-EMPTY:
-// CHECK-NEXT:#pragma QUORVANTA_POLYMORPHIC "f_pure"
-// CHECK-EMPTY:
-// CHECK-EMPTY:
-// CHECK-NEXT:__QVT__VOID f_pure(__QVT__g__{{[0-9]+}} P_0)
-// CHECK-NEXT:{
-// CHECK-NEXT:    /* function is pure */
-// CHECK-EMPTY:
 // CHECK-NEXT:    return;
 // CHECK-NEXT:}
 

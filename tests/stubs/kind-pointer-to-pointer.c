@@ -1,18 +1,14 @@
-// Each stub kind on a pointer to a pointer.
+// The default and clean stubs on a pointer to a pointer (the pure and worst texts do not depend on the type).
 // RUN: rm -rf %t && mkdir -p %t/stubs
 // RUN: qvt-cfront %s -o %t/p.ir
 // RUN: qvt-stubber -stubber -stubs-dir %t/stubs %t/p.ir %t/p.out.ir 2> %t/err.txt
 // RUN: %FileCheck-exact %s --input-file %t/stubs/qvt_stubs_0.c
 // RUN: %cc-check %t/stubs/qvt_stubs_0.c %t/stubs/qvt_user_stubs.c
 
-#pragma QUORVANTA_PURE "pp_pure"
 #pragma QUORVANTA_CLEAN "pp_clean"
-#pragma QUORVANTA_WORST "pp_worst"
 
 void pp_default(int **p);
-void pp_pure(int **p);
 void pp_clean(int **p);
-void pp_worst(int **p);
 
 // CHECK:static volatile int qvt_random_int;
 // CHECK-EMPTY:
@@ -44,19 +40,6 @@ void pp_worst(int **p);
 // CHECK-NEXT:    return;
 // CHECK-NEXT:}
 
-// CHECK-LABEL: * pp_pure
-// CHECK-NEXT: */
-// CHECK-EMPTY:
-// CHECK-NEXT:#pragma QUORVANTA_POLYMORPHIC "pp_pure"
-// CHECK-EMPTY:
-// CHECK-EMPTY:
-// CHECK-NEXT:__QVT__VOID pp_pure(__QVT__g__{{[0-9]+}} P_0)
-// CHECK-NEXT:{
-// CHECK-NEXT:    /* function is pure */
-// CHECK-EMPTY:
-// CHECK-NEXT:    return;
-// CHECK-NEXT:}
-
 // The pointer and its target.
 // CHECK-LABEL: * pp_clean
 // CHECK-NEXT: */
@@ -74,19 +57,3 @@ void pp_worst(int **p);
 // CHECK-EMPTY:
 // CHECK-NEXT:    return;
 // CHECK-NEXT:}
-
-// CHECK-LABEL: * pp_worst
-// CHECK-NEXT: */
-// CHECK-EMPTY:
-// CHECK-EMPTY:
-// CHECK-NEXT:__QVT__VOID pp_worst(__QVT__g__{{[0-9]+}} P_0)
-// CHECK-NEXT:{
-// CHECK-NEXT:    __QVT__CHAR *ptr_1;
-// CHECK-NEXT:    __QVT__CHAR *ptr_2;
-// CHECK-NEXT:{{ {4}$}}
-// CHECK-NEXT:    /* parameter 0 - WORST mode */
-// CHECK-EMPTY:
-// CHECK-NEXT:    ptr_1 = (__QVT__CHAR *)&P_0;
-// CHECK-NEXT:    ptr_2 = (__QVT__CHAR *)&P_0;
-// CHECK-NEXT:{{ {4}$}}
-// CHECK-NEXT:    /* pointer effect - WORST mode */
