@@ -1,10 +1,15 @@
 // The variable-argument block of variadic stubs; the two hidden parameters stay out of the
-// signature, and a pure stub has no such block.
-// RUN: rm -rf %t && mkdir -p %t/stubs
+// signature, and a pure stub has no such block. With -instrument (INSTR) the hidden parameters
+// are ordinary parameters, shown in the signature and treated like any other, the same block
+// follows, and every stub asks the instrumenter to take it over.
+// RUN: rm -rf %t && mkdir -p %t/stubs %t/ins
 // RUN: qvt-cfront %s -o %t/p.ir
 // RUN: qvt-stubber -stubber -stubs-dir %t/stubs %t/p.ir %t/p.out.ir 2> %t/err.txt
 // RUN: %FileCheck-exact %s --input-file %t/stubs/qvt_stubs_0.c
 // RUN: %cc-check %t/stubs/qvt_stubs_0.c %t/stubs/qvt_user_stubs.c
+// RUN: qvt-stubber -stubber -instrument -stubs-dir %t/ins %t/p.ir %t/p.ins.ir 2> %t/err.ins.txt
+// RUN: %FileCheck-exact --check-prefix=INSTR %s --input-file %t/ins/qvt_stubs_0.c
+// RUN: %cc-check %t/ins/qvt_stubs_0.c %t/ins/qvt_user_stubs.c
 
 #pragma QUORVANTA_PURE "say_pure"
 
@@ -66,3 +71,39 @@ int say_pure(const char *fmt, ...);
 // CHECK-NEXT:        return random_for_return;
 // CHECK-NEXT:    }
 // CHECK-NEXT:}
+
+// INSTR-LABEL: * say
+// INSTR-NEXT: */
+// INSTR-EMPTY:
+// INSTR-NEXT:#pragma QUORVANTA_AUTO_STUB "say"
+// INSTR-EMPTY:
+// INSTR-NEXT:__QVT__SINT32 say(__QVT__g__{{[0-9]+}} P_0, __QVT__SINT32 P_1, __QVT__g__{{[0-9]+}} P_2, ... )
+// INSTR-NEXT:{
+// INSTR-NEXT:    /* parameter 0 is constant */
+// INSTR-EMPTY:
+// INSTR-NEXT:    /* parameter 1 is constant */
+// INSTR-EMPTY:
+// INSTR-NEXT:    /* parameter 2 */
+// INSTR-EMPTY:
+// INSTR-NEXT:    {
+// INSTR-NEXT:        __QVT__CHAR *p_addr = (__QVT__CHAR *)&P_2;
+// INSTR:            *p_addr = (__QVT__CHAR)qvt_random_char;
+// INSTR-NEXT:        }
+// INSTR-NEXT:    }
+// INSTR-EMPTY:
+// INSTR-NEXT:    /* varargs access */
+// INSTR-NEXT:{{ {4}$}}
+// INSTR-NEXT:    {
+// INSTR:    /* random return value */
+// INSTR:}
+// A pure stub under -instrument carries both pragmas.
+// INSTR-LABEL: * say_pure
+// INSTR-NEXT: */
+// INSTR-EMPTY:
+// INSTR-NEXT:#pragma QUORVANTA_POLYMORPHIC "say_pure"
+// INSTR-EMPTY:
+// INSTR-NEXT:#pragma QUORVANTA_AUTO_STUB "say_pure"
+// INSTR-EMPTY:
+// INSTR-NEXT:__QVT__SINT32 say_pure(__QVT__g__{{[0-9]+}} P_0, __QVT__SINT32 P_1, __QVT__g__{{[0-9]+}} P_2, ... )
+// INSTR-NEXT:{
+// INSTR-NEXT:    /* function is pure */
