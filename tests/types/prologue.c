@@ -1,11 +1,13 @@
 // The common prologue of a generated C file: without -instrument on a 64-bit target (PLAIN), where
 // only the addressable zone depends on the pointer size (P32, P16); with -instrument (INSTR): the
 // range functions, the modulo test, the small zone whatever the pointer size, at most 32 array
-// elements, and the hidden variadic names.
+// elements, and the hidden variadic names. With -no-stubs the one stub file holds the prologue
+// alone, then the entry point.
 // RUN: rm -rf %t && mkdir -p %t/plain %t/ins %t/p32 %t/p16
 // RUN: qvt-cfront %s -o %t/p.ir
 // RUN: qvt-stubber -stubber -no-stubs -no-user-stubs-file -stubs-dir %t/plain %t/p.ir %t/p.out.ir
 // RUN: %FileCheck-exact --check-prefix=PLAIN %s < %t/plain/qvt_stubs_0.c
+// RUN: test ! -e %t/plain/qvt_stubs_1.c
 // RUN: qvt-stubber -stubber -instrument -no-stubs -no-user-stubs-file -stubs-dir %t/ins %t/p.ir %t/p.out.ir
 // RUN: %FileCheck-exact --check-prefix=INSTR %s < %t/ins/qvt_stubs_0.c
 // RUN: qvt-cfront --target=i386-pc-linux-gnu %s -o %t/p32.ir
@@ -20,6 +22,7 @@
 // RUN: %cc-check %t/p16/qvt_stubs_0.c
 
 int get_value(int *where);
+int main(void) { int v; return get_value(&v); }
 
 // PLAIN:#include "qvt_stub_types.h"
 // PLAIN-EMPTY:
@@ -59,6 +62,23 @@ int get_value(int *where);
 // PLAIN-EMPTY:
 // PLAIN-NEXT:/* Definition of functions */
 // PLAIN-EMPTY:
+// PLAIN-EMPTY:
+// PLAIN-EMPTY:
+// PLAIN-NEXT:/*
+// PLAIN-NEXT: * main entry point
+// PLAIN-NEXT: */
+// PLAIN-EMPTY:
+// PLAIN-NEXT:void __QVT__MAIN__ENTRY__POINT__(void)
+// PLAIN-NEXT:{
+// PLAIN-NEXT:    { /* call of function main */
+// PLAIN-NEXT:        __QVT__SINT32 main(__QVT__VOID);
+// PLAIN-NEXT:{{ {8}$}}
+// PLAIN-NEXT:        main();
+// PLAIN-NEXT:    }
+// PLAIN-NEXT:{{ {4}$}}
+// PLAIN-NEXT:}
+// PLAIN-EMPTY:
+// PLAIN-NOT:{{.}}
 
 // INSTR:#include "qvt_stub_types.h"
 // INSTR-EMPTY:
