@@ -6,9 +6,10 @@
 #
 # The entry is read off the generated files: the generated `main` of a library
 # (__quorvanta_main.c present) and the tasks are called by the generated entry point, so the
-# analysis starts there; a program whose own `main` takes arguments starts at that `main`, since
-# the entry point passes it volatile locals that Eva reads as uninitialised, which leaves every
-# path through `argv` dead.
+# analysis starts there. A program whose own `main` takes arguments starts at __qvt_eva_main of
+# target/qvt_eva_main.c, which calls main with an argv as the system builds it: the generated
+# entry point passes main volatile locals, which Eva reads as uninitialised, so that every path
+# through argv would be dead.
 set -euo pipefail
 
 usage() {
@@ -87,7 +88,7 @@ files+=("${stub_files[@]}")
 [ -f "$stubs/__quorvanta_main.c" ] && files+=("$stubs/__quorvanta_main.c")
 
 # The entry, and why.
-context=()
+entry_args=()
 if [ -z "$entry" ]; then
   if [ -f "$stubs/__quorvanta_main.c" ]; then
     entry=__QVT__MAIN__ENTRY__POINT__
@@ -106,8 +107,14 @@ if [ -z "$entry" ]; then
 else
   why="given"
 fi
-# argv and the strings it points to are valid, as the system gives them to main.
-[ "$entry" = main ] && context=(-eva-context-valid-pointers)
+if [ "$entry" = main ]; then
+  # main is called with each argument count apart; the states stay apart through main's first
+  # checks of argc.
+  files+=("$target/qvt_eva_main.c")
+  entry_args=(-main __qvt_eva_main -eva-slevel-function main:20)
+else
+  entry_args=(-main "$entry")
+fi
 
 start=$(date +%s.%N)
 status=0
@@ -115,7 +122,7 @@ status=0
   -cpp-extra-args="-include $target/qvt_target.h -I$target -I$stubs ${cpp_args[*]}" \
   -kernel-warn-key CERT:MSC:38=inactive \
   "${files[@]}" \
-  -eva -main "$entry" "${context[@]}" \
+  -eva "${entry_args[@]}" \
   -eva-no-remove-redundant-alarms -eva-unroll-recursive-calls "$unroll" \
   "${extra[@]}" \
   -then -metrics -metrics-eva-cover \

@@ -1,8 +1,9 @@
 // scripts/eva.sh on a program whose main takes argv, with the C library left to Frama-C
-// (-analyser-libc): the analysis starts at main, so the code after the use of argv is reached;
-// exit ends the paths that call it; the block that malloc returns is valid; the program's own
-// undefined function keeps its stub, whose unknown result raises the one index alarm. With a
-// task the analysis starts at the generated entry point, which calls main and the task.
+// (-analyser-libc): main gets an argv of strings, so the code after the use of argv is reached
+// and argv[1] is valid once argc was checked; exit ends the paths that call it; the block that
+// malloc returns is valid; the program's own undefined function keeps its stub, whose unknown
+// result raises the only alarms, on the index. Reachable are the entry, main and the stub. With
+// a task the analysis starts at the generated entry point, which calls main and the task.
 // REQUIRES: framac
 // RUN: rm -rf %t && mkdir -p %t/stubs %t/tasks
 // RUN: qvt-cfront -analyser-libc %s -o %t/p.ir
@@ -22,8 +23,8 @@
 // STUBS-NOT:{{.*}}Function{{.*}}
 
 // SUMMARY:entry: main (main takes arguments)
-// SUMMARY-NEXT:coverage: 2 of 2 reachable functions (100.0%)
-// SUMMARY-NEXT:alarms: 3: index_bound 2, precondition 1
+// SUMMARY-NEXT:coverage: 3 of 3 reachable functions (100.0%)
+// SUMMARY-NEXT:alarms: 2: index_bound 2
 
 // TASKS:entry: __QVT__MAIN__ENTRY__POINT__ (the program has tasks)
 
