@@ -2,10 +2,12 @@
 // (-analyser-libc): main gets an argv of strings, so the code after the use of argv is reached
 // and argv[1] is valid once argc was checked; exit ends the paths that call it; the block that
 // malloc returns is valid; the program's own undefined function keeps its stub, whose unknown
-// result raises the only alarms, on the index. Reachable are the entry, main and the stub. With
-// a task the analysis starts at the generated entry point, which calls main and the task.
+// result raises the only alarms, on the index. Reachable are the entry, main and the stub. The
+// undefined globals (trace, and stderr of the C library) are left to Eva, without the file of
+// _extern_init. With a task the analysis starts at the generated entry point, which calls main
+// and the task; a library starts at it too, and it calls the generated main.
 // REQUIRES: framac
-// RUN: rm -rf %t && mkdir -p %t/stubs %t/tasks
+// RUN: rm -rf %t && mkdir -p %t/stubs %t/tasks %t/lib
 // RUN: qvt-cfront -analyser-libc %s -o %t/p.ir
 // RUN: qvt-stubber -stubber -stubs-dir %t/stubs %t/p.ir %t/p.out.ir 2> %t/err.txt
 // RUN: %FileCheck-exact --check-prefix=STUBS %s --input-file %t/err.txt
@@ -17,6 +19,10 @@
 // RUN: qvt-stubber -stubber -tasks worker -stubs-dir %t/tasks %t/t.ir %t/t.out.ir 2> %t/err.tasks.txt
 // RUN: env FRAMAC=%frama-c %src_root/scripts/eva.sh -stubs %t/tasks -csv %t/tasks.csv %s > %t/summary.tasks.txt
 // RUN: %FileCheck-exact --check-prefix=TASKS %s --input-file %t/summary.tasks.txt
+// RUN: qvt-cfront %src_root/examples/library/queue.c %src_root/examples/library/drain.c -o %t/lib.ir
+// RUN: qvt-stubber -stubber -main-generator -stubs-dir %t/lib %t/lib.ir %t/lib.out.ir 2> %t/err.lib.txt
+// RUN: env FRAMAC=%frama-c %src_root/scripts/eva.sh -stubs %t/lib -I%src_root/examples/library -csv %t/lib.csv %src_root/examples/library/queue.c %src_root/examples/library/drain.c > %t/summary.lib.txt
+// RUN: %FileCheck-exact --check-prefix=LIBRARY %s --input-file %t/summary.lib.txt
 
 // STUBS-NOT:{{.*}}malloc{{.*}}
 // STUBS:* Function lookup is pure.
@@ -28,10 +34,15 @@
 
 // TASKS:entry: __QVT__MAIN__ENTRY__POINT__ (the program has tasks)
 
+// LIBRARY:entry: __QVT__MAIN__ENTRY__POINT__ (the generated main)
+// LIBRARY-NEXT:coverage: {{([0-9]+)}} of {{([0-9]+)}} reachable functions (100.0%)
+
+#include <stdio.h>
 #include <stdlib.h>
 #include <string.h>
 
 int lookup(const char *key);
+extern int trace;
 int worker_runs;
 
 void worker(void)
@@ -49,6 +60,8 @@ int main(int argc, char **argv)
     slot = &table[1];
   if (!slot)
     exit(2);
+  if (trace)
+    fputs("start\n", stderr);
   *slot = 1; // NOALARM-NOT:{{.*}}eva-script.c{{.}}[[@LINE]]{{.}}{{.*}}
   n = strlen(argv[1]);
   copy = malloc(n + 1);
