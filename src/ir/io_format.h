@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "ir/fileset.h"
+#include "ir/trees.h"
 
 struct file_set_entry::io_state {
     FILE *in = nullptr;  // the input, open while bodies may be read
@@ -22,10 +23,26 @@ struct file_set_entry::io_state {
         long length;
     };
     std::vector<spooled> bodies;
+    // The first body that could not be spooled, and why: the output can't be written.
+    std::string write_error;
     ~io_state();
 };
 
 namespace ir_format {
+// Limits of the format, kept alike by the writer and the reader. Ids stay
+// far below INT_MAX, so that the objects a run adds keep ids that print as
+// C ints. A line may not exceed max_line bytes (its end excluded). Bodies
+// nest statements and expressions at most max_nesting deep, each counted on
+// its own: the walkers of the tools recurse on both.
+constexpr unsigned max_id = 1073741823;
+constexpr size_t max_line = (size_t)16 << 20;
+constexpr int max_nesting = 10000;
+
+// Whether op takes n operands; *need says how many it takes.
+bool operand_count_fits(if_ops op, unsigned n, const char **need);
+// A type of st or of its child tables that reaches itself other than
+// through a struct or union, or null.
+type_node *find_type_cycle(base_symtab *st);
 // Appends text in double quotes with C escapes.
 void put_quoted(std::string &out, const char *text);
 // Appends the text form of an immed.
@@ -39,6 +56,9 @@ bool unquote(std::string_view tok, std::string &out);
 bool parse_uint(std::string_view tok, unsigned *out);
 bool parse_int(std::string_view tok, long long *out);
 
-// Serialises the body of p (must be in memory) into out.
-void write_body(std::string &out, proc_sym *p);
+// Serialises the body of p (must be in memory) into out. False, with *why
+// set, when the body breaks the format's limits: the reader would refuse it.
+bool write_body(std::string &out, proc_sym *p, std::string *why);
+// Whether every line of text from `from` on is within max_line; *why is set if not.
+bool lines_fit(const std::string &text, size_t from, std::string *why);
 }  // namespace ir_format

@@ -7,6 +7,7 @@
 #include <cstring>
 #include <functional>
 #include <string>
+#include <unordered_map>
 #include <unordered_set>
 
 #include "ir/internal.h"
@@ -148,6 +149,15 @@ struct reader {
     type_node *open_type = nullptr;
     unsigned open_expected = 0, open_seen = 0;
     std::vector<fixup> fixups;
+    // Where each type was read, for the check of cycles.
+    std::unordered_map<const type_node *, int> type_lines;
+    bool check_type_cycles(base_symtab *st) {
+        type_node *t = find_type_cycle(st);
+        if (!t) return true;
+        auto at = type_lines.find(t);
+        line_no = at == type_lines.end() ? 0 : at->second;
+        return fail("type " + std::to_string(t->type_id()) + " reaches itself other than through a struct or union");
+    }
     // Within a body: the ids it defines.
     bool in_body = false;
     int instr_depth = 0;
@@ -160,22 +170,47 @@ struct reader {
         return false;
     }
 
+    // Reads one raw line into `line`, without its end; false at the end of
+    // the file or on a line beyond max_line. Our own buffer rather than
+    // getline: a line is cut off at the limit, so that endless input (a
+    // device, a file without line ends) can't take all memory.
+    char buf[1 << 16];
+    size_t buf_at = 0, buf_end = 0;
+    bool raw_line() {
+        line.clear();
+        bool any = false;
+        for (;;) {
+            if (buf_at == buf_end) {
+                buf_at = 0;
+                buf_end = fread(buf, 1, sizeof buf, in);
+                if (buf_end == 0) break;
+            }
+            any = true;
+            const char *start = buf + buf_at;
+            const char *nl = (const char *)memchr(start, '\n', buf_end - buf_at);
+            size_t n = nl ? (size_t)(nl - start) : buf_end - buf_at;
+            if (line.size() + n > max_line) {
+                ++line_no;
+                return fail("a line longer than " + std::to_string(max_line) + " bytes");
+            }
+            line.append(start, n);
+            buf_at += n + (nl ? 1 : 0);
+            pos += (long)(n + (nl ? 1 : 0));
+            if (nl) break;
+        }
+        if (!any) return false;
+        ++line_no;
+        // A last line without its end: the file was cut.
+        if (buf_at == buf_end && buf_end == 0) truncated_last = true;
+        return true;
+    }
+
     // Reads the next line that is not a comment; false at the end of file.
     bool next_line() {
-        static thread_local char *buf = nullptr;
-        static thread_local size_t cap = 0;
         for (;;) {
             line_start = pos;
-            ssize_t n = getline(&buf, &cap, in);
-            if (n <= 0) return false;
-            pos += n;
-            ++line_no;
-            if (buf[n - 1] != '\n') {
-                line.assign(buf, (size_t)n);
-                truncated_last = true;
-            } else {
-                line.assign(buf, (size_t)n - 1);
-            }
+            if (!raw_line()) return false;
+            if (memchr(line.data(), 0, line.size())) return fail("a NUL byte in the line");
             if (line.empty() || line[0] == '#') continue;
             if (!split_tokens(line, tok)) return fail("unclosed string");
             if (tok.empty()) continue;
@@ -367,6 +402,7 @@ bool reader::read_type() {
     unsigned id;
     if (!uint_at(1, &id)) return false;
     if (id == 0) return fail("type id 0 is reserved");
+    if (id > max_id) return fail("type id " + std::to_string(id) + " is out of range (at most " + std::to_string(max_id) + ")");
     if (ir_internal::type_id_taken(id)) return fail("duplicate type id " + std::to_string(id));
     int op_number = op_of_word(tok[2]);
     if (op_number < 0) return fail("unknown type kind \"" + std::string(tok[2]) + "\"");
@@ -457,6 +493,7 @@ bool reader::read_type() {
     }
     }
     t->set_type_id(id);
+    type_lines[t] = line_no;
     ir_internal::note_type_id(id);
     table->add_type(t);
     last = t;
@@ -498,6 +535,7 @@ bool reader::read_sym(long *with_body) {
     unsigned id;
     if (!uint_at(1, &id)) return false;
     if (id == 0) return fail("symbol id 0 is reserved");
+    if (id > max_id) return fail("symbol id " + std::to_string(id) + " is out of range (at most " + std::to_string(max_id) + ")");
     if (ir_internal::sym_id_taken(id)) return fail("duplicate symbol id " + std::to_string(id));
     std::string name, true_name;
     unsigned flags;
@@ -608,20 +646,16 @@ bool ir_read_tables(file_set_entry *fse, std::string *error) {
     }
 
     // Version line: taken as it is, comments not allowed ahead of it.
-    {
-        char *buf = nullptr;
-        size_t cap = 0;
-        ssize_t n = getline(&buf, &cap, r.in);
+    r.pos = 0;
+    if (!r.raw_line()) {
+        if (r.failed) return false;
         r.line_no = 1;
-        r.pos = n > 0 ? n : 0;
-        std::string first = n > 0 ? std::string(buf, (size_t)n) : std::string();
-        free(buf);
-        if (!first.empty() && first.back() == '\n') first.pop_back();
-        if (n <= 0) return r.fail("empty file");
-        if (first != ir_format_version) {
-            if (first.rfind("qvt-ir ", 0) == 0) return r.fail("unsupported version \"" + first + "\", expected \"" + ir_format_version + "\"");
-            return r.fail(std::string("not an IR file: the first line must be \"") + ir_format_version + "\"");
-        }
+        return r.fail("empty file");
+    }
+    if (r.line != ir_format_version) {
+        if (r.line.size() < 64 && r.line.rfind("qvt-ir ", 0) == 0)
+            return r.fail("unsupported version \"" + r.line + "\", expected \"" + ir_format_version + "\"");
+        return r.fail(std::string("not an IR file: the first line must be \"") + ir_format_version + "\"");
     }
 
     long with_body = 0;
@@ -668,6 +702,7 @@ bool ir_read_tables(file_set_entry *fse, std::string *error) {
         } else if (w == "ids") {
             unsigned s, t;
             if (!r.want(3) || !r.uint_at(1, &s) || !r.uint_at(2, &t)) return false;
+            if (s > max_id + 1 || t > max_id + 1) return r.fail("next id out of range (at most " + std::to_string(max_id + 1) + ")");
             ir_internal::note_sym_id(s ? s - 1 : 0);
             ir_internal::note_type_id(t ? t - 1 : 0);
         } else if (w == "entry") {
@@ -733,6 +768,7 @@ bool ir_read_tables(file_set_entry *fse, std::string *error) {
     if (r.truncated_last) return r.fail("the last line has no line end: the file is truncated");
     if (!r.resolve_fixups()) return false;
     if (table_kind != 2) return r.fail("the file has no symbol tables");
+    if (!r.check_type_cycles(fs->globals)) return false;
     if (with_body != 0) {
         r.line_no = 0;
         for (base_symtab *st : {(base_symtab *)fs->globals, (base_symtab *)fse->symtab()})
@@ -777,7 +813,7 @@ bool reader::parse_operand(size_t &i, operand *out) {
 bool reader::parse_instr(size_t &i, instruction **out) {
     *out = nullptr;
     if (i + 5 > tok.size() || tok[i] != "(") return fail("bad instruction");
-    if (instr_depth > 1000) return fail("instruction nested too deeply");
+    if (instr_depth >= max_nesting) return fail("instructions nested deeper than " + std::to_string(max_nesting));
     struct depth_guard {
         int &d;
         explicit depth_guard(int &x) : d(x) { ++d; }
@@ -851,9 +887,10 @@ bool reader::parse_instr(size_t &i, instruction **out) {
         delete ins;
         return fail("bad operand count");
     }
-    if (op == io_cal && n == 0) {
+    const char *need;
+    if (!operand_count_fits(op, n, &need)) {
         delete ins;
-        return fail("a call needs its address operand");
+        return fail(std::string("opcode ") + if_ops_name(op) + " takes " + need + ", has " + std::to_string(n));
     }
     if (n > tok.size()) {
         delete ins;
@@ -998,7 +1035,7 @@ bool reader::read_node(tree_node **out) {
 bool reader::read_list(tree_node_list *l, std::string_view *stop) {
     bool nodes_started = false;
     static thread_local int depth = 0;
-    if (depth > 500) return fail("bodies nested too deeply");
+    if (depth >= max_nesting) return fail("statements nested deeper than " + std::to_string(max_nesting));
     struct guard {
         guard() { ++depth; }
         ~guard() { --depth; }
@@ -1094,6 +1131,7 @@ bool ir_read_body(proc_sym *p, std::string *error) {
         ok = r.read_list(tp->body(), &stop);
         if (ok && stop != "endbody") ok = r.fail("unexpected \"" + std::string(stop) + "\" in a body");
         if (ok) ok = r.resolve_fixups();
+        if (ok) ok = r.check_type_cycles(st);
     }
     if (!ok) {
         if (!r.failed) r.fail("unexpected end of file inside a body");

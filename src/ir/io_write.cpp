@@ -219,7 +219,18 @@ static void put_table_contents(std::string &out, base_symtab *st, file_set_entry
 
 static void put_operand(std::string &out, const operand &r);
 
+// Nesting of the body being written. Past the limit the writer stops going
+// down (so it can't exhaust the stack) and the body is refused.
+static int instr_depth = 0, stmt_depth = 0;
+static bool too_deep = false;
+
 static void put_instr(std::string &out, instruction *i) {
+    if (instr_depth >= max_nesting) {
+        too_deep = true;
+        out.push_back('-');
+        return;
+    }
+    ++instr_depth;
     out += "( ";
     out += if_ops_name(i->opcode());
     out.push_back(' ');
@@ -256,6 +267,7 @@ static void put_instr(std::string &out, instruction *i) {
             out += " ]";
         }
     out += " )";
+    --instr_depth;
 }
 
 static void put_operand(std::string &out, const operand &r) {
@@ -344,10 +356,33 @@ static void put_node(std::string &out, tree_node *t, file_set_entry *fse) {
 
 static void put_list(std::string &out, tree_node_list *l, file_set_entry *fse) {
     if (!l) return;
+    if (stmt_depth >= max_nesting) {
+        too_deep = true;
+        return;
+    }
+    ++stmt_depth;
     for (tree_node_list_e *e = l->head(); e; e = e->next()) put_node(out, e->contents, fse);
+    --stmt_depth;
 }
 
-void write_body(std::string &out, proc_sym *p) {
+bool lines_fit(const std::string &text, size_t from, std::string *why) {
+    const char *p = text.data() + from, *end = text.data() + text.size();
+    while (p < end) {
+        const char *nl = (const char *)memchr(p, '\n', (size_t)(end - p));
+        size_t n = (size_t)((nl ? nl : end) - p);
+        if (n > max_line) {
+            *why = "a line longer than " + std::to_string(max_line) + " bytes";
+            return false;
+        }
+        p += n + 1;
+    }
+    return true;
+}
+
+bool write_body(std::string &out, proc_sym *p, std::string *why) {
+    size_t from = out.size();
+    instr_depth = stmt_depth = 0;
+    too_deep = false;
     tree_proc *tp = p->block();
     out += "body ";
     put_sym(out, p);
@@ -357,6 +392,15 @@ void write_body(std::string &out, proc_sym *p) {
     put_block_table(out, "ptable", tp->symtab(), p->file());
     put_list(out, tp->body(), p->file());
     out += "endbody\n";
+    if (too_deep) {
+        *why = std::string("procedure ") + p->name() + " nests deeper than " + std::to_string(max_nesting) + " levels";
+        return false;
+    }
+    if (!lines_fit(out, from, why)) {
+        *why = std::string("procedure ") + p->name() + ": " + *why;
+        return false;
+    }
+    return true;
 }
 
 }  // namespace ir_format
@@ -368,16 +412,25 @@ void proc_sym::write_proc(file_set_entry *f) {
     if (fse != f) set_file(f);
     if (!f->io) f->io = new file_set_entry::io_state;
     if (!f->io->spool) f->io->spool = tmpfile();
-    if (!f->io->spool) return;
-    std::string text;
-    write_body(text, this);
+    if (!f->io->spool) {
+        if (f->io->write_error.empty()) f->io->write_error = std::string("cannot make a spool file: ") + strerror(errno);
+        return;
+    }
+    std::string text, why;
+    if (!write_body(text, this, &why)) {
+        if (f->io->write_error.empty()) f->io->write_error = why;
+        return;
+    }
     // The spool is only appended to, except when exit_suif reads it back.
     if (f->io->spool_read) {
         fseek(f->io->spool, 0, SEEK_END);
         f->io->spool_read = false;
     }
     long at = f->io->spool_size;
-    if (fwrite(text.data(), 1, text.size(), f->io->spool) != text.size()) return;
+    if (fwrite(text.data(), 1, text.size(), f->io->spool) != text.size()) {
+        if (f->io->write_error.empty()) f->io->write_error = std::string("cannot spool a body: ") + strerror(errno);
+        return;
+    }
     f->io->spool_size += (long)text.size();
     spool_index = (long)f->io->bodies.size();
     f->io->bodies.push_back({this, at, (long)text.size()});
@@ -418,6 +471,10 @@ static long body_length(FILE *in, long offset) {
 bool ir_write_entry(file_set_entry *fse, std::string *error) {
     const char *out_name = fse->out_name();
     if (!out_name) return true;
+    if (fse->io && !fse->io->write_error.empty()) {
+        *error = std::string(out_name) + ":0: cannot write: " + fse->io->write_error;
+        return false;
+    }
     std::string tmp = std::string(out_name) + ".tmp";
     FILE *out = fopen(tmp.c_str(), "wb");
     if (!out) {
@@ -450,7 +507,8 @@ bool ir_write_entry(file_set_entry *fse, std::string *error) {
     put_quoted(text, fse->symtab()->name());
     text += "\n";
     put_table_contents(text, fse->symtab(), fse);
-    bool ok = fwrite(text.data(), 1, text.size(), out) == text.size();
+    std::string why;
+    bool ok = lines_fit(text, 0, &why) && fwrite(text.data(), 1, text.size(), out) == text.size();
 
     // Bodies, in the entry's procedure order: the last spooled text of each,
     // else the body in memory, else the untouched text of the input.
@@ -465,8 +523,7 @@ bool ir_write_entry(file_set_entry *fse, std::string *error) {
             fse->io->spool_read = true;
         } else if (p->is_in_memory()) {
             std::string b;
-            write_body(b, p);
-            ok = fwrite(b.data(), 1, b.size(), out) == b.size();
+            ok = write_body(b, p, &why) && fwrite(b.data(), 1, b.size(), out) == b.size();
         } else if (p->body_offset >= 0 && fse->io && fse->io->in) {
             long len = body_length(fse->io->in, p->body_offset);
             ok = len > 0 && copy_range(fse->io->in, p->body_offset, len, out);
@@ -479,7 +536,7 @@ bool ir_write_entry(file_set_entry *fse, std::string *error) {
     if (fclose(out) != 0) ok = false;
     if (ok && rename(tmp.c_str(), out_name) != 0) ok = false;
     if (!ok) {
-        *error = std::string(out_name) + ":0: cannot write: " + strerror(errno ? errno : EIO);
+        *error = std::string(out_name) + ":0: cannot write: " + (why.empty() ? strerror(errno ? errno : EIO) : why);
         unlink(tmp.c_str());
         return false;
     }
