@@ -6,11 +6,12 @@
 #include "cfront/target_setup.h"
 #include "cfront/tu_runner.h"
 #include "ir/ir.h"
+#include "ir/large_stack.h"
 
 #include <cstdio>
 #include <string>
 
-int main(int argc, char **argv) {
+static int cfront_main(int argc, char **argv) {
     cfront_options opts;
     std::string err;
     if (!parse_cfront_options(argc, argv, &opts, &err)) {
@@ -53,3 +54,6 @@ int main(int argc, char **argv) {
     exit_suif();
     return 0;
 }
+
+// Deep C makes deep recursion in the lowering and in the writer.
+int main(int argc, char **argv) { return run_with_large_stack(cfront_main, argc, argv); }

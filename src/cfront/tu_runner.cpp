@@ -24,6 +24,8 @@
 #include <mutex>
 #include <thread>
 
+#include "ir/large_stack.h"
+
 namespace {
 
 // The turn of units, shared by the workers.
@@ -144,9 +146,9 @@ bool run_units(const std::vector<tu_job> &units, int threads, const unit_consume
     if (n <= 1) {
         worker();
     } else {
-        std::vector<std::thread> pool;
-        for (unsigned t = 0; t < n; t++) pool.emplace_back(worker);
-        for (auto &t : pool) t.join();
+        // Deep C makes deep recursion in the lowering: the workers get the
+        // large stack the main thread has.
+        if (!run_threads_with_large_stack(n, worker)) worker();
     }
     return all_ok;
 }

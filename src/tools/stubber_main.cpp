@@ -5,6 +5,8 @@
 #include <cstdio>
 #include <cstring>
 
+#include "ir/large_stack.h"
+
 extern "C" int stubsuif_main(int argc, char **argv);
 
 static const char usage[] =
@@ -39,5 +41,6 @@ int main(int argc, char **argv)
             return 0;
         }
     }
-    return stubsuif_main(argc, argv);
+    // Bodies may nest as deep as the IR allows; the walkers recurse.
+    return run_with_large_stack(stubsuif_main, argc, argv);
 }
