@@ -7,7 +7,11 @@
 // directory extends what is there.
 #include "driver/output_files.h"
 
+#include <cerrno>
 #include <cstring>
+#include <string>
+#include <sys/stat.h>
+#include <unistd.h>
 #include <vector>
 
 #include "driver/options.h"
@@ -62,7 +66,15 @@ char *stubs_dir_path(const char *name) {
 static char out_buffer[1 << 16];
 static FILE *out_buffer_owner = nullptr;
 
+// The open file's path, and its size before this writer appended (-1: the file is new), so
+// that a write that fails takes back what it appended rather than leave a cut file behind.
+static std::string out_path;
+static long out_start = -1;
+
 FILE *open_output_file(const char *path) {
+  struct stat st;
+  out_start = stat(path, &st) == 0 ? (long)st.st_size : -1;
+  out_path = path;
   out_file = fopen(path, "ab");
   if (!out_file) error_line(1, nullptr, "qvt-stubber: file '%s' access fails", path);
   if (!out_buffer_owner) {
@@ -72,9 +84,25 @@ FILE *open_output_file(const char *path) {
   return out_file;
 }
 
+// A full disk or a device that takes nothing (/dev/full) shows in the stream's error flag or
+// in the last flush. The run can't deliver what it was asked for: it ends, as when the file
+// can't be opened, without writing the output IR.
 void close_output_file() {
   if (out_file == out_buffer_owner) out_buffer_owner = nullptr;
-  checked_fclose(out_file);
+  bool failed = ferror(out_file) || fflush(out_file) != 0;
+  int saved = errno ? errno : EIO;
+  if (!failed) {
+    if (checked_fclose(out_file) == 0) return;
+    saved = errno ? errno : EIO;
+  } else {
+    fclose(out_file);
+  }
+  struct stat st;
+  if (stat(out_path.c_str(), &st) == 0 && S_ISREG(st.st_mode)) {
+    if (out_start < 0) unlink(out_path.c_str());
+    else if (truncate(out_path.c_str(), out_start) != 0) { /* the message below still says it */ }
+  }
+  error_line(1, nullptr, "qvt-stubber: file '%s' write fails: %s", out_path.c_str(), strerror(saved));
 }
 
 // Moves every piece of from to the end of into; from ends empty.

@@ -2,6 +2,7 @@
 // per-file marks, and the stub file (appended, its lines emptied).
 #include "driver/output_files.h"
 
+#include <fcntl.h>
 #include <unistd.h>
 
 #include <cstdlib>
@@ -271,3 +272,22 @@ TEST_F(output_files_test, stub_file_is_appended_and_lines_emptied) {
 }
 
 }  // namespace
+
+// A write that fails at close (the disk filled up under the stream) ends the run and takes
+// back what the writer appended: an existing file keeps its old text, a new one goes.
+TEST_F(output_files_test, failed_write_leaves_no_cut_file) {
+  std::string old_file = dir + "/old.c", new_file = dir + "/new.c";
+  { std::ofstream(old_file) << "/* before */\n"; }
+  for (const std::string &path : {old_file, new_file}) {
+    EXPECT_EXIT(
+        {
+          open_output_file(path.c_str());
+          emit_line("int x;\n");
+          dup2(open("/dev/full", O_WRONLY), fileno(out_file));
+          close_output_file();
+        },
+        ::testing::ExitedWithCode(1), "file '" + path + "' write fails: No space left on device");
+  }
+  EXPECT_EQ(read_file(old_file), "/* before */\n");
+  EXPECT_NE(access(new_file.c_str(), F_OK), 0);
+}
