@@ -8,6 +8,7 @@
 
 #include <cstdlib>
 #include <cstring>
+#include <sys/stat.h>
 
 namespace {
 
@@ -54,6 +55,24 @@ const char *cfront_usage() {
            "\n"
            "Other options go to clang for every file: -I, -isystem, -D, -U, -include, -std=,\n"
            "--target=, -m32, -W..., -f...\n";
+}
+
+// Writing the IR over a source would destroy it: the output may be no
+// source file, under whatever name (a missing output is a new file).
+static bool output_is_no_source(const cfront_options &opts, std::string *err) {
+    struct stat out_st;
+    bool out_exists = stat(opts.output.c_str(), &out_st) == 0;
+    for (const tu_job &u : opts.units) {
+        std::string path = u.file;
+        if (!u.directory.empty() && !path.empty() && path[0] != '/') path = u.directory + "/" + path;
+        struct stat in_st;
+        if (path == opts.output || (out_exists && stat(path.c_str(), &in_st) == 0 && in_st.st_dev == out_st.st_dev &&
+                                    in_st.st_ino == out_st.st_ino)) {
+            *err = "the output file '" + opts.output + "' is the source file '" + u.file + "'";
+            return false;
+        }
+    }
+    return true;
 }
 
 bool parse_cfront_options(int argc, const char *const *argv, cfront_options *opts, std::string *err) {
@@ -127,7 +146,7 @@ bool parse_cfront_options(int argc, const char *const *argv, cfront_options *opt
             *err = db_dir + "/compile_commands.json: no C file in the compilation database";
             return false;
         }
-        return true;
+        return output_is_no_source(*opts, err);
     }
     if (files.empty()) {
         *err = "no input file";
@@ -140,5 +159,5 @@ bool parse_cfront_options(int argc, const char *const *argv, cfront_options *opt
         job.args.push_back(f);
         opts->units.push_back(std::move(job));
     }
-    return true;
+    return output_is_no_source(*opts, err);
 }

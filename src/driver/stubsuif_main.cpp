@@ -13,12 +13,35 @@
 #include "drs/drs_model.h"
 #include "types/type_predicates.h"
 
+#include <cstring>
+#include <sys/stat.h>
+
 extern "C" {
 const char *libc_stubber_ver_string = "qvt-stubber " QVT_VERSION;
 const char *libc_stubber_who_string = "qvt-stubber " QVT_VERSION ", built " QVT_BUILD_DATE;
 const char *libc_stubber_suif_string = "qvt IR library";
 const char *qv_c_stubber_so_version = QVT_VERSION;
 const char *qv_c_stubber_so_build_date = QVT_BUILD_DATE;
+}
+
+// Arguments that would make the run write where it must not: an empty stubs
+// directory puts the generated files in the root folder, and an output that
+// is the input (the same file under any name) destroys the input.
+static void refuse_unsafe_arguments(const char *input, const char *output, bool writes_output) {
+  if (stubs_dir && !*stubs_dir) {
+    error_line(0, nullptr, "qvt-stubber: the stubs directory is empty");
+    error_line(1, nullptr, "qvt-stubber: bad arguments");
+  }
+  if (!writes_output)
+    return;
+  struct stat in_st, out_st;
+  bool same = strcmp(input, output) == 0 ||
+              (stat(input, &in_st) == 0 && stat(output, &out_st) == 0 && in_st.st_dev == out_st.st_dev &&
+               in_st.st_ino == out_st.st_ino);
+  if (same) {
+    error_line(0, nullptr, "qvt-stubber: the output file '%s' is the input file", output);
+    error_line(1, nullptr, "qvt-stubber: bad arguments");
+  }
 }
 
 // The options only the entry point reads; the table points into it.
@@ -130,6 +153,7 @@ int stubsuif_main(int argc, char **argv) {
   // modes that write the procedures back get one, so that the symbol header
   // mode, the range-only mode and a run without mode leave no output IR.
   bool writes_back = !args.flag_unknown_symbols && (args.flag_stubber || args.flag_cpp_drs_gen);
+  refuse_unsafe_arguments(argv[1], argv[2], writes_back || args.flag_unknown_symbols);
   fileset->add_file(argv[1], writes_back ? argv[2] : nullptr);
   fileset->reset_iter();
   current_fse = fileset->next_file();
