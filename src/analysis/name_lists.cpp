@@ -2,6 +2,7 @@
 // the lookup of a symbol by the name it has in the source.
 #include "analysis/symbol_collection.h"
 
+#include <climits>
 #include <cstdlib>
 #include <cstring>
 #include <string>
@@ -29,12 +30,14 @@ string_list *read_name_file(const char *path) {
   long size = -1;
   if (fseek(file, 0, SEEK_END) == 0)
     size = ftell(file);
-  if (size < 0 || fseek(file, 0, SEEK_SET) != 0) {
+  // An empty file has no names; so has a device that tells no size (/dev/null, /dev/zero),
+  // which fgets with a buffer of one byte would read for ever.
+  if (size <= 0 || fseek(file, 0, SEEK_SET) != 0) {
     fclose(file);
     return list;
   }
-  // A buffer of the file's size holds any line whole.
-  int buffer_size = static_cast<int>(size) + 1;
+  // A buffer of the file's size holds any line whole (fgets counts in ints).
+  int buffer_size = size < INT_MAX ? static_cast<int>(size) + 1 : INT_MAX;
   char *buffer = static_cast<char *>(malloc(buffer_size));
   while (fgets(buffer, buffer_size, file)) {
     string_list *tokens = split_names(strdup(buffer), " \n\r");
