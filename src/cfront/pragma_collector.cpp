@@ -1,10 +1,13 @@
 // The preprocessor tells us where each pragma of active code stands (lines
-// skipped by #if never reach the callback); we then read the words from the
-// source text ourselves, so that every pragma is kept, including those that
-// clang itself handles (pack, GCC, ...), and none is reported as unknown.
+// skipped by #if never reach the callback); we then read the words
+// ourselves, so that every pragma is kept, including those that clang itself
+// handles (pack, GCC, ...), and none is reported as unknown. A #pragma line
+// is read from the source text; a _Pragma, which may come out of a macro,
+// from the buffer where the preprocessor put its operand.
 #include "cfront/pragma_collector.h"
 
 #include <clang/Basic/SourceManager.h>
+#include <clang/Lex/Lexer.h>
 #include <clang/Lex/PPCallbacks.h>
 #include <clang/Lex/Pragma.h>
 #include <clang/Lex/Preprocessor.h>
@@ -58,30 +61,35 @@ std::string pragma_line_text(const char *p, const char *end) {
 
 class pragma_callbacks : public clang::PPCallbacks {
 public:
-    pragma_callbacks(clang::SourceManager &sm, std::vector<pragma_words> *out) : sm(sm), out(out) {}
+    pragma_callbacks(clang::Preprocessor &pp, std::vector<pragma_words> *out)
+        : pp(pp), sm(pp.getSourceManager()), out(out) {}
 
     void PragmaDirective(clang::SourceLocation loc, clang::PragmaIntroducerKind kind) override {
-        if (loc.isInvalid() || !loc.isFileID()) return;
-        if (sm.isInSystemHeader(loc)) return;
-        bool invalid = false;
-        const char *p = sm.getCharacterData(loc, &invalid);
-        if (invalid || !p) return;
-        clang::FileID fid = sm.getFileID(loc);
-        llvm::StringRef buf = sm.getBufferData(fid, &invalid);
-        if (invalid) return;
-        const char *end = buf.data() + buf.size();
+        if (loc.isInvalid()) return;
+        // A _Pragma written in a macro counts where the macro is used.
+        if (sm.isInSystemHeader(sm.getExpansionLoc(loc))) return;
         std::string text;
         if (kind == clang::PIK_HashPragma) {
+            if (!loc.isFileID()) return;
+            bool invalid = false;
+            const char *p = sm.getCharacterData(loc, &invalid);
+            if (invalid || !p) return;
+            llvm::StringRef buf = sm.getBufferData(sm.getFileID(loc), &invalid);
+            if (invalid) return;
             // "#", blanks, "pragma", then the words.
-            std::string line = pragma_line_text(p, end);
+            std::string line = pragma_line_text(p, buf.data() + buf.size());
             size_t at = line.find("pragma");
             if (at == std::string::npos) return;
             text = line.substr(at + 6);
         } else if (kind == clang::PIK__Pragma) {
-            std::string line = pragma_line_text(p, end);
-            size_t q = line.find('"');
-            if (q == std::string::npos) return;
-            text = read_string(line, q);
+            // The preprocessor has put the operand, unquoted and with its
+            // escapes resolved, in a buffer of its own and is about to lex
+            // it: the text is there whether the string was written out,
+            // made by a macro with # or pasted. It ends with a line end.
+            auto *lexer = static_cast<clang::Lexer *>(pp.getCurrentLexer());
+            if (!lexer) return;
+            const char *p = lexer->getBufferLocation();
+            while (*p && *p != '\n') text += *p++;
         } else {
             return;
         }
@@ -90,6 +98,7 @@ public:
     }
 
 private:
+    clang::Preprocessor &pp;
     clang::SourceManager &sm;
     std::vector<pragma_words> *out;
 };
@@ -131,7 +140,7 @@ pragma_words split_pragma_text(const std::string &text) {
 }
 
 void collect_pragmas(clang::Preprocessor &pp, std::vector<pragma_words> *out) {
-    pp.addPPCallbacks(std::make_unique<pragma_callbacks>(pp.getSourceManager(), out));
+    pp.addPPCallbacks(std::make_unique<pragma_callbacks>(pp, out));
     // The analysis pragmas are ours: known to the preprocessor, they draw no
     // "unknown pragma" warning, which -Werror would make an error.
     for (const char *word : {"QUORVANTA_PURE", "QUORVANTA_CLEAN", "QUORVANTA_WORST", "QUORVANTA_NO_INSTRUMENT",
