@@ -1,13 +1,10 @@
-// Used and dead marks on programs made with the builder: the cases a call
-// graph can take, and random programs checked against the closure algorithm.
+// Used and dead marks on programs made with the builder: the cases a call graph can take.
+// The linear algorithm itself is compared with the closure on random graphs in call_graph_test.
 #include "analysis/used_symbols.h"
 #include "driver/options.h"
 #include "types/ir_test_fixture.h"
 
-#include <random>
 #include <string>
-
-#include "analysis/call_closure_test_util.h"
 
 namespace {
 
@@ -57,15 +54,26 @@ TEST_F(UsedSymbols, DeadMarksOnSmallCallGraphs) {
   }
 }
 
-TEST_F(UsedSymbols, AddressTakenIsUsedAndStaysDead) {
-  proc_sym *handler = defined("handler"), *setup = defined("setup");
+// One program for the other edges: taking an address uses without calling, an undefined
+// callee is never dead, an indirect call makes no edge, and other annotations survive the marks.
+TEST_F(UsedSymbols, AddressesUndefinedCalleesAndIndirectCalls) {
+  proc_sym *handler = defined("handler"), *setup = defined("setup"), *g = defined("g");
+  proc_sym *ext = b->extern_proc("ext", void_fn);
   var_sym *table = b->global_var("table", b->ptr(void_fn));
   b->add_addr_of(setup, handler);
   b->add_use(setup, table);
+  b->add_indirect_call(setup, table, {});
+  b->add_call(setup, ext, {});
+  b->annotate(g, "note", {immed(7)});
+  b->add_call(setup, g, {});
   compute_used_symbols(b->fse());
   EXPECT_TRUE(is_used_symbol(handler));
   EXPECT_TRUE(is_dead_proc(handler));
   EXPECT_TRUE(is_used_symbol(table));
+  EXPECT_TRUE(is_used_symbol(ext));
+  EXPECT_FALSE(is_dead_proc(ext));
+  EXPECT_FALSE(is_dead_proc(g));
+  EXPECT_NE(g->peek_annote(intern("note")), nullptr);
 }
 
 // Locals go with their body; under the address sanitizer this catches any
@@ -81,24 +89,6 @@ TEST_F(UsedSymbols, LocalsOfABodyAreMarkedWhileItLives) {
   EXPECT_TRUE(is_used_symbol(global));
 }
 
-TEST_F(UsedSymbols, UndefinedCalleeIsUsedNeverDead) {
-  proc_sym *ext = b->extern_proc("ext", void_fn), *f = defined("f");
-  b->add_call(f, ext, {});
-  compute_used_symbols(b->fse());
-  EXPECT_TRUE(is_used_symbol(ext));
-  EXPECT_FALSE(is_dead_proc(ext));
-}
-
-TEST_F(UsedSymbols, IndirectCallMakesNoEdge) {
-  proc_sym *f = defined("f"), *g = defined("g");
-  var_sym *fp = b->global_var("fp", b->ptr(void_fn));
-  b->add_indirect_call(f, fp, {});
-  b->add_addr_of(f, g);
-  compute_used_symbols(b->fse());
-  EXPECT_TRUE(is_used_symbol(fp));
-  EXPECT_TRUE(is_dead_proc(g));
-}
-
 TEST_F(UsedSymbols, AllProcsUsedKeepsEveryDeadMark) {
   flag_all_procs_used = true;
   proc_sym *f = defined("f"), *g = defined("g");
@@ -107,39 +97,6 @@ TEST_F(UsedSymbols, AllProcsUsedKeepsEveryDeadMark) {
   EXPECT_TRUE(is_dead_proc(g));
   EXPECT_TRUE(is_used_symbol(g));
   flag_all_procs_used = false;
-}
-
-TEST_F(UsedSymbols, DeadMarkIsRemovedOnceAndOtherAnnotationsStay) {
-  proc_sym *f = defined("f"), *g = defined("g");
-  b->annotate(g, "note", {immed(7)});
-  b->add_call(f, g, {});
-  compute_used_symbols(b->fse());
-  EXPECT_FALSE(is_dead_proc(g));
-  EXPECT_NE(g->peek_annote(intern("note")), nullptr);
-}
-
-TEST_F(UsedSymbols, RandomProgramsMatchClosure) {
-  std::mt19937 rng(77);
-  for (int round = 0; round < 60; round++) {
-    if (round) {
-      TearDown();
-      SetUp();
-    }
-    int n = 1 + rng() % 14;
-    std::vector<proc_sym *> procs;
-    for (int i = 0; i < n; i++)
-      procs.push_back(defined(("p" + std::to_string(i)).c_str()));
-    edge_list calls;
-    for (int e = rng() % (2 * n + 1); e > 0; e--) {
-      uint32_t c = rng() % n, x = rng() % n;
-      calls.push_back({c, x});
-      b->add_call(procs[c], procs[x], {});
-    }
-    compute_used_symbols(b->fse());
-    std::vector<bool> loses = losers_by_closure(n, calls);
-    for (int i = 0; i < n; i++)
-      ASSERT_EQ(is_dead_proc(procs[i]), !loses[i]) << "round " << round << ", p" << i;
-  }
 }
 
 } // namespace

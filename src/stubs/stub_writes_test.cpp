@@ -1,5 +1,6 @@
-// Stub writes: the clean walk where it can loop or write too much, calls through known
-// signatures and the per-file stubs of function pointers.
+// Stub writes: the clean walk where it can loop or write too much, the hidden arguments of a
+// variadic call and the per-file stubs of function pointers. Calls of declared functions, of
+// parameters and of main are checked end to end.
 #include "stubs/stub_writes.h"
 
 #include "stubs/stub_test_util.h"
@@ -39,17 +40,6 @@ TEST_F(stub_writes_test, clean_write_skips_fillers_and_writes_bit_fields_plainly
             (strings{"P_0[qvt_random_int].low = " + rnd(flags->field_type(0)) + ";\n"}));
 }
 
-TEST_F(stub_writes_test, call_of_a_declared_function_has_its_prototype_and_volatile_arguments)
-{
-  ptr_type *text = b->ptr(type_char);
-  proc_sym *g = b->extern_proc("g", b->func(type_signed, {type_signed, text}));
-  name_types();
-  EXPECT_EQ(pieces_of(call_function_text(g)),
-            (strings{"{ /* call of function g */\n", "__QVT__SINT32 g(__QVT__SINT32, " + gname(text) + ");\n",
-                     "volatile __QVT__SINT32 __ARG__0;\n", "volatile " + gname(text) + " __ARG__1;\n", "\n",
-                     "g(__ARG__0, __ARG__1);\n", "}\n"}));
-}
-
 TEST_F(stub_writes_test, a_variadic_call_passes_the_hidden_arguments)
 {
   ptr_type *text = b->ptr(type_char);
@@ -61,21 +51,6 @@ TEST_F(stub_writes_test, a_variadic_call_passes_the_hidden_arguments)
                      "volatile " + gname(text) + " __ARG__0;\n", "volatile __QVT__SINT32 __ARG__1;\n",
                      "volatile " + gname(printer->arg_type(2)) + " __ARG__2;\n", "\n",
                      "v(__ARG__0, __ARG__1, __ARG__2);\n", "}\n"}));
-}
-
-TEST_F(stub_writes_test, call_of_a_procedure_made_on_the_spot_has_no_prototype_unless_it_is_main)
-{
-  func_type *type = b->func(type_void, {});
-  name_types();
-  proc_sym *var_like = make_free_proc(type, "P_3");
-  EXPECT_EQ(pieces_of(call_function_text(var_like)),
-            (strings{"{ /* call of function P_3 */\n", "\n", "P_3();\n", "}\n"}));
-  delete var_like;
-  proc_sym *free_main = make_free_proc(type, "main");
-  EXPECT_EQ(pieces_of(call_function_text(free_main)),
-            (strings{"{ /* call of function main */\n", "__QVT__VOID main(__QVT__VOID);\n", "\n", "main();\n",
-                     "}\n"}));
-  delete free_main;
 }
 
 TEST_F(stub_writes_test, one_stub_per_signature_and_file)
