@@ -1,4 +1,4 @@
-// Parsing and validation of a range file with libxml2.
+// Validation of a range file with libxml2's streaming reader and the schema.
 //
 // The schema is embedded in the library, parsed once and kept. libxml2
 // reports every error it meets; only the first is told, since a later one is
@@ -9,11 +9,10 @@
 #include "drsxml/drs_load.h"
 #include "drsxml/drs_words.h"
 
-#include <libxml/parser.h>
+#include <libxml/xmlreader.h>
 #include <libxml/xmlschemas.h>
 
 #include <cstdio>
-#include <cstring>
 #include <string>
 
 namespace {
@@ -21,17 +20,21 @@ struct first_error {
   bool seen = false;
   int line = 0;
   std::string text;
+
+  void set(int at, const char *message) {
+    if (seen)
+      return;
+    seen = true;
+    line = at;
+    text = message ? message : "unknown error";
+    while (!text.empty() && (text.back() == '\n' || text.back() == ' '))
+      text.pop_back();
+  }
 };
 
 void keep_first(void *data, xmlErrorPtr error) {
-  first_error *first = (first_error *)data;
-  if (first->seen || !error || error->level == XML_ERR_WARNING)
-    return;
-  first->seen = true;
-  first->line = error->line;
-  first->text = error->message ? error->message : "unknown error";
-  while (!first->text.empty() && (first->text.back() == '\n' || first->text.back() == ' '))
-    first->text.pop_back();
+  if (error && error->level != XML_ERR_WARNING)
+    ((first_error *)data)->set(error->line, error->message);
 }
 
 xmlSchemaPtr schema() {
@@ -43,40 +46,34 @@ xmlSchemaPtr schema() {
   }
   return parsed;
 }
-
-void silent(void *, xmlErrorPtr) {}
 } // namespace
 
-xmlDocPtr drs_load_file(const char *path, bool warnings) {
+bool drs_check_file(const char *path, bool warnings) {
   first_error first;
   xmlSetStructuredErrorFunc(&first, keep_first);
-  xmlDocPtr doc = xmlReadFile(path, nullptr, XML_PARSE_NONET | XML_PARSE_BIG_LINES);
-  if (doc && doc->intSubset && !first.seen) {
-    first.seen = true;
-    first.line = (int)xmlGetLineNo((xmlNodePtr)doc->intSubset);
-    first.text = "a document type declaration is not allowed in a range file";
+  xmlTextReaderPtr reader = xmlReaderForFile(path, nullptr, XML_PARSE_NONET | XML_PARSE_BIG_LINES);
+  if (!reader) {
+    first.set(0, "the file can't be read as XML");
+  } else {
+    xmlTextReaderSetSchema(reader, schema());
+    int status;
+    while ((status = xmlTextReaderRead(reader)) == 1 && !first.seen)
+      if (xmlTextReaderNodeType(reader) == XML_READER_TYPE_DOCUMENT_TYPE)
+        first.set(xmlTextReaderGetParserLineNumber(reader),
+                  "a document type declaration is not allowed in a range file");
+    if (status < 0)
+      first.set(xmlTextReaderGetParserLineNumber(reader), "the file can't be read as XML");
+    if (!first.seen && xmlTextReaderIsValid(reader) != 1)
+      first.set(xmlTextReaderGetParserLineNumber(reader), "the file does not follow the range file schema");
+    xmlFreeTextReader(reader);
   }
-  if (doc && !first.seen) {
-    xmlSchemaValidCtxtPtr valid = xmlSchemaNewValidCtxt(schema());
-    xmlSchemaSetValidStructuredErrors(valid, keep_first, &first);
-    if (xmlSchemaValidateDoc(valid, doc) != 0 && !first.seen) {
-      first.seen = true;
-      first.text = "the file does not follow the range file schema";
-    }
-    xmlSchemaFreeValidCtxt(valid);
-  }
-  if (!doc && !first.seen) {
-    first.seen = true;
-    first.text = "the file can't be read as XML";
-  }
-  xmlSetStructuredErrorFunc(nullptr, silent);
+  xmlSetStructuredErrorFunc(nullptr, [](void *, xmlErrorPtr) {});
   if (!first.seen)
-    return doc;
-  xmlFreeDoc(doc);
+    return true;
   if (warnings) {
     fprintf(stderr, "%s:%d: warning: data-range-specifications: bad XML range file: %s\n", path,
             first.line > 0 ? first.line : 1, first.text.c_str());
     fflush(stderr);
   }
-  return nullptr;
+  return false;
 }

@@ -1,12 +1,13 @@
-// The reading side of the range file: a flat cursor over the checked tree.
+// The reading side of the range file: a flat cursor over a checked file.
 //
-// drs_read_init loads the whole file and flattens it at once into a list of
-// records, each element with its full name composed from its ancestors: a
-// field is "parent.field", a pointer's target "parent*", an array's element
-// and the members of an anonymous struct stand at their parent's name, and a
-// function's parameters and return are "f.#0" and "f.return". A scalar that
-// holds both a range and an assert range gives two records, the assert second,
-// since the cursor has one status an element.
+// drs_read_init validates the whole file first, in one streaming pass, and
+// the cursor then reads it again, element by element, each with its full
+// name composed from its ancestors: a field is "parent.field", a pointer's
+// target "parent*", an array's element and the members of an anonymous
+// struct stand at their parent's name, and a function's parameters and return
+// are "f.#0" and "f.return". A scalar that holds both a range and an assert
+// range comes twice, the assert second, since the cursor has one status an
+// element. Memory stays at the depth of the tree, whatever the file's size.
 #include "drsxml/drs_load.h"
 #include "drsxml/drs_parser.h"
 #include "drsxml/drs_words.h"
@@ -14,6 +15,7 @@
 #include <libxml/xmlreader.h>
 
 #include <cstdio>
+#include <cstdlib>
 #include <cstring>
 #include <string>
 #include <vector>
@@ -22,7 +24,6 @@ namespace {
 struct record {
   int kind;
   std::string name;
-  size_t file;  // index into files
   bool is_static;
   int line;
   int status;
@@ -30,24 +31,31 @@ struct record {
   int sign, size, pointer_kind;
 };
 
-std::vector<std::string> files;
-std::vector<record> records;
-size_t next_record;
-const record *current;
+// An open element: its kind (0 a file), full name and static flag.
+struct frame {
+  int kind;
+  std::string name;
+  bool is_static;
+};
+
+xmlTextReaderPtr reader;
+std::vector<frame> open_elements;
+std::string file_name;
+record current;
+bool has_current;
 bool warnings_on = true;
 int buffer_size = 1024;
 
-std::string attribute(xmlNodePtr node, const char *name, const char *fallback = "") {
-  xmlChar *value = xmlGetProp(node, (const xmlChar *)name);
+std::string attribute(const char *name, const char *fallback = "") {
+  xmlChar *value = xmlTextReaderGetAttribute(reader, (const xmlChar *)name);
   std::string text = value ? (const char *)value : fallback;
   xmlFree(value);
   return text;
 }
 
-bool is_yes(xmlNodePtr node, const char *name) { return attribute(node, name) == "yes"; }
-
-int line_of(xmlNodePtr node) {
-  long line = xmlGetLineNo(node);
+int current_line() {
+  xmlNodePtr node = xmlTextReaderCurrentNode(reader);
+  long line = node ? xmlGetLineNo(node) : 0;
   return line > 0 ? (int)line : 0;
 }
 
@@ -65,53 +73,38 @@ std::string full_name(int parent_kind, const std::string &parent, const std::str
   }
 }
 
-void flatten(xmlNodePtr parent, int parent_kind, const std::string &parent_name, bool parent_static, size_t file) {
-  for (xmlNodePtr node = parent->children; node; node = node->next) {
-    if (node->type != XML_ELEMENT_NODE)
-      continue;
-    int kind = drs_element_kind((const char *)node->name);
-    if (kind == 0)
-      continue;  // an assert, read with its scalar
-    record r{};
-    r.kind = kind;
-    r.name = full_name(parent_kind, parent_name, attribute(node, "name"));
-    r.file = file;
-    r.is_static = parent_static || is_yes(node, "static");
-    r.line = line_of(node);
-    r.status = 3;
-    r.pointer_kind = 2;
-    r.sign = -1;
-    if (kind == DRS_ELEMENT_SCALAR || kind == DRS_ELEMENT_POINTER) {
-      r.status = drs_mode_status(attribute(node, "mode").c_str());
-      r.min = attribute(node, "min");
-      r.max = attribute(node, "max");
-      r.sign = drs_sign_value(attribute(node, "sign", "none").c_str());
-      r.size = atoi(attribute(node, "size", "0").c_str());
-      if (kind == DRS_ELEMENT_POINTER)
-        r.pointer_kind = drs_targets_kind(attribute(node, "targets", "multi").c_str());
-      else if (r.status == 4)
-        r.status = 3;
-    } else if (kind == DRS_ELEMENT_FUNCTION) {
-      std::string called = attribute(node, "called");
-      r.status = called == "yes" ? 1 : called == "no" ? 0 : 3;
-    }
-    records.push_back(r);
-    if (kind == DRS_ELEMENT_SCALAR) {
-      for (xmlNodePtr a = node->children; a; a = a->next)
-        if (a->type == XML_ELEMENT_NODE && strcmp((const char *)a->name, "assert") == 0) {
-          record assert_record = records.back();
-          assert_record.status = 7;
-          assert_record.min = attribute(a, "min");
-          assert_record.max = attribute(a, "max");
-          assert_record.line = line_of(a);
-          records.push_back(assert_record);
-        }
-    } else {
-      // The list grows below: the parent's name is copied first.
-      std::string name = r.name;
-      flatten(node, kind, name, r.is_static, file);
-    }
+// Fills current from the element under the reader.
+void read_element(int kind) {
+  const frame &parent = open_elements.back();
+  current = record{};
+  current.kind = kind;
+  current.name = full_name(parent.kind, parent.name, attribute("name"));
+  current.is_static = parent.is_static || attribute("static") == "yes";
+  current.line = current_line();
+  current.status = 3;
+  current.pointer_kind = 2;
+  current.sign = -1;
+  if (kind == DRS_ELEMENT_SCALAR || kind == DRS_ELEMENT_POINTER) {
+    current.status = drs_mode_status(attribute("mode").c_str());
+    current.min = attribute("min");
+    current.max = attribute("max");
+    current.sign = drs_sign_value(attribute("sign", "none").c_str());
+    current.size = atoi(attribute("size", "0").c_str());
+    if (kind == DRS_ELEMENT_POINTER)
+      current.pointer_kind = drs_targets_kind(attribute("targets", "multi").c_str());
+    else if (current.status == 4)
+      current.status = 3;
+  } else if (kind == DRS_ELEMENT_FUNCTION) {
+    std::string called = attribute("called");
+    current.status = called == "yes" ? 1 : called == "no" ? 0 : 3;
   }
+}
+
+void stop_reading() {
+  if (reader)
+    xmlFreeTextReader(reader);
+  reader = nullptr;
+  open_elements.clear();
 }
 
 void copy_out(char *buffer, int size, const std::string &text) {
@@ -143,10 +136,10 @@ int drs_get_file_version(const char *path) {
   // XML: the root's version if it is a range file's, else the current
   // version, so that the reader gets to say what is wrong with it.
   int version = DRS_XML_VERSION;
+  xmlSetStructuredErrorFunc(nullptr, silent);
   xmlTextReaderPtr reader = xmlReaderForFile(path, nullptr, XML_PARSE_NONET);
   if (!reader)
     return version;
-  xmlTextReaderSetStructuredErrorHandler(reader, silent, nullptr);
   while (xmlTextReaderRead(reader) == 1) {
     if (xmlTextReaderNodeType(reader) != XML_READER_TYPE_ELEMENT)
       continue;
@@ -167,69 +160,94 @@ void drs_set_warnings(int on) { warnings_on = on != 0; }
 void drs_set_output_buffer_size(int size) { buffer_size = size; }
 
 void drs_read_init(const char *path) {
-  files.clear();
-  records.clear();
-  next_record = 0;
-  current = nullptr;
-  xmlDocPtr doc = drs_load_file(path, warnings_on);
-  if (!doc)
+  stop_reading();
+  has_current = false;
+  if (!drs_check_file(path, warnings_on))
     return;
-  xmlNodePtr root = xmlDocGetRootElement(doc);
-  for (xmlNodePtr f = root->children; f; f = f->next) {
-    if (f->type != XML_ELEMENT_NODE)
-      continue;
-    files.push_back(attribute(f, "name"));
-    flatten(f, 0, "", false, files.size() - 1);
-  }
-  xmlFreeDoc(doc);
+  xmlSetStructuredErrorFunc(nullptr, silent);
+  reader = xmlReaderForFile(path, nullptr, XML_PARSE_NONET | XML_PARSE_BIG_LINES);
 }
 
 int drs_get_next_element(void) {
-  if (next_record >= records.size()) {
-    current = nullptr;
-    return DRS_ELEMENT_NONE;
+  has_current = false;
+  while (reader && xmlTextReaderRead(reader) == 1) {
+    int type = xmlTextReaderNodeType(reader);
+    const char *tag = (const char *)xmlTextReaderConstLocalName(reader);
+    if (type == XML_READER_TYPE_END_ELEMENT) {
+      if (!open_elements.empty() && strcmp(tag, "assert") != 0 && strcmp(tag, "ranges") != 0)
+        open_elements.pop_back();
+      continue;
+    }
+    if (type != XML_READER_TYPE_ELEMENT)
+      continue;
+    bool empty = xmlTextReaderIsEmptyElement(reader);
+    if (strcmp(tag, "file") == 0) {
+      file_name = attribute("name");
+      if (!empty)
+        open_elements.push_back(frame{0, "", false});
+      continue;
+    }
+    if (strcmp(tag, "assert") == 0) {
+      // The scalar read last is the parent: its record comes again as the assert.
+      if (current.kind != DRS_ELEMENT_SCALAR)
+        continue;
+      current.status = 7;
+      current.min = attribute("min");
+      current.max = attribute("max");
+      current.line = current_line();
+      has_current = true;
+      return current.kind;
+    }
+    int kind = drs_element_kind(tag);
+    if (kind == 0 || open_elements.empty())
+      continue;
+    read_element(kind);
+    if (!empty)
+      open_elements.push_back(frame{kind, current.name, current.is_static});
+    has_current = true;
+    return kind;
   }
-  current = &records[next_record++];
-  return current->kind;
+  stop_reading();
+  return DRS_ELEMENT_NONE;
 }
 
 void drs_get_element_coordinates(char *name, int name_size, char *file, int file_size, int *unused, int *is_static,
                                  int *line) {
   static const std::string none;
-  copy_out(name, name_size, current ? current->name : none);
-  copy_out(file, file_size, current ? files[current->file] : none);
+  copy_out(name, name_size, has_current ? current.name : none);
+  copy_out(file, file_size, has_current ? file_name : none);
   if (unused)
     *unused = 0;
   if (is_static)
-    *is_static = current && current->is_static;
+    *is_static = has_current && current.is_static;
   if (line)
-    *line = current ? current->line : 0;
+    *line = has_current ? current.line : 0;
 }
 
 int drs_get_scalar(int *sign, int *size, char *min, int min_size, char *max, int max_size) {
   static const record none{};
-  const record &r = current ? *current : none;
+  const record &r = has_current ? current : none;
   if (sign)
     *sign = r.sign;
   if (size)
     *size = r.size;
   copy_out(min, min_size, r.min);
   copy_out(max, max_size, r.max);
-  return current ? r.status : 3;
+  return has_current ? r.status : 3;
 }
 
 int drs_get_pointer(char *min, int min_size, char *max, int max_size, int *pointer_kind) {
   static const record none{};
-  const record &r = current ? *current : none;
+  const record &r = has_current ? current : none;
   copy_out(min, min_size, r.min);
   copy_out(max, max_size, r.max);
   if (pointer_kind)
-    *pointer_kind = current ? r.pointer_kind : 2;
-  return current ? r.status : 3;
+    *pointer_kind = has_current ? r.pointer_kind : 2;
+  return has_current ? r.status : 3;
 }
 
 int drs_get_function(int *status, int) {
   if (status)
-    *status = current ? current->status : 3;
+    *status = has_current ? current.status : 3;
   return 0;
 }

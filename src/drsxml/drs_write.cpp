@@ -13,12 +13,15 @@
 #include <cstring>
 #include <deque>
 #include <string>
+#include <string_view>
 #include <unordered_map>
 #include <unordered_set>
 
 namespace {
 std::deque<drs_node> nodes;
-std::unordered_set<std::string> pool;
+// The pool: texts stored once in a deque (stable addresses), found by view.
+std::deque<std::string> pool_texts;
+std::unordered_set<std::string_view> pool;
 std::unordered_map<std::string, drs_node *> files;
 drs_node *root;
 drs_node *current;
@@ -27,7 +30,12 @@ const char *(*decode_name)(const char *);
 const char *pooled(const char *text) {
   if (!text)
     return nullptr;
-  return pool.emplace(text).first->c_str();
+  auto found = pool.find(std::string_view(text));
+  if (found != pool.end())
+    return found->data();
+  const std::string &kept = pool_texts.emplace_back(text);
+  pool.insert(std::string_view(kept));
+  return kept.c_str();
 }
 
 drs_node *new_node(int kind, drs_node *parent) {
@@ -59,6 +67,7 @@ drs_node *writable() {
 void drs_write_init(void) {
   nodes.clear();
   pool.clear();
+  pool_texts.clear();
   files.clear();
   root = new_node(-1, nullptr);
   current = nullptr;
@@ -171,6 +180,8 @@ void drs_write_end(const char *path) {
     fprintf(stderr, "error: file '%s' can't be written: %s\n", path, strerror(errno));
     return;
   }
+  static char buffer[1 << 16];
+  setvbuf(out, buffer, _IOFBF, sizeof buffer);
   drs_print_tree(out, root);
   if (fclose(out) != 0)
     fprintf(stderr, "error: file '%s' can't be written: %s\n", path, strerror(errno));

@@ -31,24 +31,35 @@ int utf8_length(const unsigned char *s) {
   return n;
 }
 
+// Runs of plain ASCII go out in one write; only what needs care is looked at
+// character by character.
+bool plain(unsigned char c) { return c >= 0x20 && c < 0x80 && c != '&' && c != '<' && c != '>' && c != '"'; }
+
 void put_text(FILE *out, const char *text) {
   const unsigned char *s = (const unsigned char *)text;
   while (*s) {
+    const unsigned char *run = s;
+    while (plain(*s))
+      s++;
+    if (s != run)
+      fwrite_unlocked(run, 1, s - run, out);
+    if (!*s)
+      break;
     switch (*s) {
-    case '&': fputs("&amp;", out); s++; continue;
-    case '<': fputs("&lt;", out); s++; continue;
-    case '>': fputs("&gt;", out); s++; continue;
-    case '"': fputs("&quot;", out); s++; continue;
-    case '\t': fputs("&#9;", out); s++; continue;
-    case '\n': fputs("&#10;", out); s++; continue;
-    case '\r': fputs("&#13;", out); s++; continue;
+    case '&': fputs_unlocked("&amp;", out); s++; continue;
+    case '<': fputs_unlocked("&lt;", out); s++; continue;
+    case '>': fputs_unlocked("&gt;", out); s++; continue;
+    case '"': fputs_unlocked("&quot;", out); s++; continue;
+    case '\t': fputs_unlocked("&#9;", out); s++; continue;
+    case '\n': fputs_unlocked("&#10;", out); s++; continue;
+    case '\r': fputs_unlocked("&#13;", out); s++; continue;
     }
     int n = *s < 0x20 ? 0 : utf8_length(s);
     if (n == 0) {
-      fputs("\xEF\xBF\xBD", out);
+      fputs_unlocked("\xEF\xBF\xBD", out);
       s++;
     } else {
-      fwrite(s, 1, n, out);
+      fwrite_unlocked(s, 1, n, out);
       s += n;
     }
   }
@@ -57,38 +68,47 @@ void put_text(FILE *out, const char *text) {
 void put_attribute(FILE *out, const char *name, const char *value) {
   if (!value)
     return;
-  fprintf(out, " %s=\"", name);
+  putc_unlocked(' ', out);
+  fputs_unlocked(name, out);
+  fputs_unlocked("=\"", out);
   put_text(out, value);
-  fputc('"', out);
+  putc_unlocked('"', out);
 }
 
 void put_flag(FILE *out, const char *name, bool on) {
   if (on)
-    fprintf(out, " %s=\"yes\"", name);
+    put_attribute(out, name, "yes");
+}
+
+void put_number(FILE *out, const char *name, long value) {
+  char text[24];
+  snprintf(text, sizeof text, "%ld", value);
+  put_attribute(out, name, text);
 }
 
 void indent(FILE *out, int depth) {
   for (int i = 0; i < depth; i++)
-    fputs("  ", out);
+    fputs_unlocked("  ", out);
 }
 
 void put_element(FILE *out, const drs_node *n, int depth) {
   const char *word = drs_element_word(n->kind);
   indent(out, depth);
-  fprintf(out, "<%s", word);
+  putc_unlocked('<', out);
+  fputs_unlocked(word, out);
   put_attribute(out, "name", n->name);
   if (n->line > 0)
-    fprintf(out, " line=\"%d\"", n->line);
+    put_number(out, "line", n->line);
   put_attribute(out, "type", n->type);
   if (n->kind == DRS_ELEMENT_SCALAR) {
     put_attribute(out, "sign", drs_sign_word(n->sign));
     if (n->size != 0)
-      fprintf(out, " size=\"%d\"", n->size);
+      put_number(out, "size", n->size);
   }
   put_flag(out, "static", n->is_static);
   if (n->kind == DRS_ELEMENT_FUNCTION) {
     if (n->is_extern)
-      fputs(" defined=\"no\"", out);
+      fputs_unlocked(" defined=\"no\"", out);
   } else {
     put_flag(out, "extern", n->is_extern);
   }
@@ -110,7 +130,7 @@ void put_element(FILE *out, const drs_node *n, int depth) {
     if (targets)
       put_attribute(out, "targets", targets);
     else
-      fprintf(out, " targets=\"%u\"", (unsigned)n->pointer_kind);
+      put_number(out, "targets", (unsigned)n->pointer_kind);
     put_flag(out, "allocated-write", n->allocated_write);
   }
   if (n->kind == DRS_ELEMENT_FUNCTION && (n->called == 0 || n->called == 1))
@@ -119,16 +139,16 @@ void put_element(FILE *out, const drs_node *n, int depth) {
   bool has_assert = n->kind == DRS_ELEMENT_SCALAR && n->has_assert;
   // A pointer holds one target at most; further children would not validate.
   if (!n->first_child && !has_assert) {
-    fputs("/>\n", out);
+    fputs_unlocked("/>\n", out);
     return;
   }
-  fputs(">\n", out);
+  fputs_unlocked(">\n", out);
   if (has_assert) {
     indent(out, depth + 1);
-    fputs("<assert", out);
+    fputs_unlocked("<assert", out);
     put_attribute(out, "min", n->assert_min);
     put_attribute(out, "max", n->assert_max);
-    fputs("/>\n", out);
+    fputs_unlocked("/>\n", out);
   }
   if (n->kind != DRS_ELEMENT_SCALAR)
     for (const drs_node *c = n->first_child; c; c = c->next) {
@@ -137,24 +157,26 @@ void put_element(FILE *out, const drs_node *n, int depth) {
         break;
     }
   indent(out, depth);
-  fprintf(out, "</%s>\n", word);
+  fputs_unlocked("</", out);
+  fputs_unlocked(word, out);
+  fputs_unlocked(">\n", out);
 }
 } // namespace
 
 void drs_print_tree(FILE *out, const drs_node *root) {
-  fputs("<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n", out);
+  fputs_unlocked("<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n", out);
   fprintf(out, "<ranges version=\"%d\">\n", DRS_XML_VERSION);
   for (const drs_node *f = root->first_child; f; f = f->next) {
-    fputs("  <file", out);
+    fputs_unlocked("  <file", out);
     put_attribute(out, "name", f->name);
     if (!f->first_child) {
-      fputs("/>\n", out);
+      fputs_unlocked("/>\n", out);
       continue;
     }
-    fputs(">\n", out);
+    fputs_unlocked(">\n", out);
     for (const drs_node *c = f->first_child; c; c = c->next)
       put_element(out, c, 2);
-    fputs("  </file>\n", out);
+    fputs_unlocked("  </file>\n", out);
   }
-  fputs("</ranges>\n", out);
+  fputs_unlocked("</ranges>\n", out);
 }
