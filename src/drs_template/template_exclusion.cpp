@@ -87,6 +87,9 @@ bool is_repeated_static(sym_node *sym) {
 }
 } // namespace
 
+// Tables of an earlier run may stand at the same addresses as new ones.
+void template_exclusion_reset() { first_at_place.clear(); }
+
 bool is_excluded_from_template(sym_node *sym) {
   // The mark says "not this time": it is taken off as it is read.
   if (annote *mark = sym->get_annote(k_no_drs)) {

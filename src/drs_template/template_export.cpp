@@ -179,6 +179,7 @@ void export_drs_template(int version, file_set_entry *fse, sym_node_list *main_p
   template_main_vars = main_vars;
   template_entries = entries;
   template_entries_index();
+  template_exclusion_reset();
   main_proc_set.clear();
   if (main_procs)
     for (sym_node_list_e *e = main_procs->head(); e; e = e->next())

@@ -44,6 +44,8 @@ void template_entries_index();
 drs_entry *pop_template_entry();
 // True if the symbol stays out of the template. Takes off a k_no_drs mark.
 bool is_excluded_from_template(sym_node *sym);
+// Forgets what the exclusion learnt of the symbol tables of an earlier run.
+void template_exclusion_reset();
 
 // The element of one object of one type, with its children.
 void export_type(type_node *type, const char *name, const char *path, template_context *ctx);
