@@ -1,4 +1,5 @@
 // Constant parameters (scalars by value, pointers to const data) and a pointer to void, for the default, clean and worst stubs.
+// The byte walk of a default stub is checked line by line in kind-pointer-to-aggregate.c.
 // RUN: rm -rf %t && mkdir -p %t/stubs
 // RUN: qvt-cfront %s -o %t/p.ir
 // RUN: qvt-stubber -stubber -stubs-dir %t/stubs %t/p.ir %t/p.out.ir 2> %t/err.txt
@@ -32,14 +33,7 @@ void c_worst(int n, const char *s, void *v);
 // CHECK-EMPTY:
 // CHECK-NEXT:    {
 // CHECK-NEXT:        __QVT__CHAR *p_addr = (__QVT__CHAR *)&P_2;
-// CHECK-NEXT:        while (qvt_random_int)
-// CHECK-NEXT:        {
-// CHECK-NEXT:            p_addr += qvt_random_int;
-// CHECK-NEXT:            if (qvt_random_int)
-// CHECK-NEXT:            {
-// CHECK-NEXT:                p_addr = *(__QVT__CHAR **)p_addr;
-// CHECK-NEXT:            }
-// CHECK-NEXT:            *p_addr = (__QVT__CHAR)qvt_random_char;
+// CHECK:            *p_addr = (__QVT__CHAR)qvt_random_char;
 // CHECK-NEXT:        }
 // CHECK-NEXT:    }
 // CHECK-EMPTY:

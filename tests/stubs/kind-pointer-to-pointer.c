@@ -1,4 +1,5 @@
 // The default and clean stubs on a pointer to a pointer (the pure and worst texts do not depend on the type).
+// The byte walk of a default stub is checked line by line in kind-pointer-to-aggregate.c.
 // RUN: rm -rf %t && mkdir -p %t/stubs
 // RUN: qvt-cfront %s -o %t/p.ir
 // RUN: qvt-stubber -stubber -stubs-dir %t/stubs %t/p.ir %t/p.out.ir 2> %t/err.txt
@@ -26,14 +27,7 @@ void pp_clean(int **p);
 // CHECK-EMPTY:
 // CHECK-NEXT:    {
 // CHECK-NEXT:        __QVT__CHAR *p_addr = (__QVT__CHAR *)&P_0;
-// CHECK-NEXT:        while (qvt_random_int)
-// CHECK-NEXT:        {
-// CHECK-NEXT:            p_addr += qvt_random_int;
-// CHECK-NEXT:            if (qvt_random_int)
-// CHECK-NEXT:            {
-// CHECK-NEXT:                p_addr = *(__QVT__CHAR **)p_addr;
-// CHECK-NEXT:            }
-// CHECK-NEXT:            *p_addr = (__QVT__CHAR)qvt_random_char;
+// CHECK:            *p_addr = (__QVT__CHAR)qvt_random_char;
 // CHECK-NEXT:        }
 // CHECK-NEXT:    }
 // CHECK-EMPTY:
