@@ -20,6 +20,10 @@ struct base_symtab::lookup_index {
     bool names_indexed = false;
     std::unordered_multimap<const char *, sym_node *> by_name;
     std::unordered_multimap<size_t, type_node *> by_shape;
+    // Where each child table stands in the list of children: a body read and
+    // flushed leaves its table at once, and many bodies made in memory may
+    // stand before it.
+    std::unordered_map<base_symtab *, base_symtab_list_e *> kid_elems;
 };
 
 // A hash of the parts that is_same compares; 0 for types that only equal
@@ -128,6 +132,11 @@ var_sym *base_symtab::new_var(type_node *type, const char *name) {
 var_sym *base_symtab::new_unique_var(type_node *type, const char *base) {
     char buf[256];
     const char *b = base ? base : "_tmp";
+    // Numbers that the global or a file table has handed out are taken
+    // there: a new table under a global table of many generated variables
+    // starts past them instead of trying each one.
+    for (const base_symtab *st = up; st; st = st->up)
+        if (st->is_global() || st->is_file()) unique_counter = std::max(unique_counter, st->unique_counter);
     for (;;) {
         std::snprintf(buf, sizeof buf, "%.200s%u", b, ++unique_counter);
         bool taken = false;
@@ -185,12 +194,15 @@ void base_symtab::add_child(base_symtab *child) {
     if (child->up == this) return;
     if (child->up) child->up->remove_child(child);
     child->up = this;
-    kids.append(child);
+    idx->kid_elems[child] = kids.append(child);
 }
 
 void base_symtab::remove_child(base_symtab *child) {
-    base_symtab_list_e *e = kids.lookup(child);
-    if (e) delete kids.remove(e);
+    auto found = idx->kid_elems.find(child);
+    if (found != idx->kid_elems.end()) {
+        delete kids.remove(found->second);
+        idx->kid_elems.erase(found);
+    }
     child->up = nullptr;
 }
 
