@@ -13,11 +13,14 @@ rm -rf "$out"; mkdir -p "$out"
 (cd examples && "../$bin/qvt-cfront" main.c sensor.c bus.c -o "../$out/example.ir")
 "$bin/qvt-irdump" "$out/example.ir"
 # The stub mode closes the program: a stub for every undefined function, the type header, the
-# entry point and the user skeleton; its report goes to the standard error stream.
+# entry point and the user skeleton; its report goes to the standard error stream. The ranges of
+# examples/ranges.txt and of the pragma in sensor.c bound what the stubs give back; the range
+# template drs-template.xml lands in $out.
 mkdir -p "$out/stubs"
 status=0
-"$bin/qvt-stubber" -stubber -stubs-dir "$out/stubs" "$out/example.ir" "$out/example.out.ir" \
-  2>"$out/stubber.txt" || status=$?
+top=$PWD
+(cd "$out" && "$top/$bin/qvt-stubber" -stubber -drs-gen -drs-file "$top/examples/ranges.txt" \
+  -stubs-dir stubs example.ir example.out.ir) 2>"$out/stubber.txt" || status=$?
 cat "$out/stubber.txt" >&2
 # Every generated file compiles with gcc and clang, the support header forced in.
 for f in "$out"/stubs/*.c; do
