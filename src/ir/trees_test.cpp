@@ -131,9 +131,3 @@ TEST_F(trees, recursive_hidden_check_repairs_links_of_hand_built_expressions) {
     EXPECT_EQ(c->parent_instr(), neg);
     delete neg;
 }
-
-TEST_F(trees, opcode_names_both_ways) {
-    EXPECT_STREQ(if_ops_name(io_sle), "sle");
-    EXPECT_EQ(if_ops_from_name("btrue"), io_btrue);
-    EXPECT_EQ(if_ops_from_name("nonsense"), io_error);
-}
