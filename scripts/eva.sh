@@ -58,6 +58,7 @@ while [ $# -gt 0 ]; do
         -csv) csv=$2 ;;
         -log) log=$2 ;;
         -unroll) unroll=$2 ;;
+        -include) cpp_args+=("-include $2") ;;
         *) cpp_args+=("$1$2") ;;
       esac
       shift 2 ;;
