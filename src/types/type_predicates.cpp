@@ -10,8 +10,10 @@
 // looked at once, whatever the number of parameters that reach it.
 #include "types/type_predicates.h"
 
+#include <algorithm>
 #include <cstring>
 #include <unordered_map>
+#include <vector>
 
 #include "drs/drs_model.h"
 
@@ -319,23 +321,65 @@ subrange_list *copy_subranges(subrange_list *list) {
   return r;
 }
 
+// The questions on the entries read are put once a pointer or a range of every generated
+// function, and the entries may number as many as the program's symbols: a walk of the list per
+// question grows with their product. They are answered from the entries sorted by name (list
+// order kept among equal names), so that the entries of one name or one prefix stand together.
+// The index is made again when the list is another or has grown; a fully_handled flag only
+// ever goes from false to true, and is read from the entry at each question.
+namespace {
+
+struct entry_index {
+  const drs_entry_list *list = nullptr;
+  size_t size = 0;
+  const drs_entry *front = nullptr, *back = nullptr;
+  std::vector<drs_entry *> by_name;
+};
+
+entry_index &current_entry_index() {
+  static entry_index index;
+  const drs_entry_list *list = drs_read_entries;
+  const drs_entry *front = list->empty() ? nullptr : list->front();
+  const drs_entry *back = list->empty() ? nullptr : list->back();
+  if (index.list != list || index.size != list->size() || index.front != front || index.back != back) {
+    index.list = list;
+    index.size = list->size();
+    index.front = front;
+    index.back = back;
+    index.by_name.clear();
+    for (drs_entry *e : *list)
+      if (e->name) index.by_name.push_back(e);
+    std::stable_sort(index.by_name.begin(), index.by_name.end(),
+                     [](const drs_entry *a, const drs_entry *b) { return strcmp(a->name, b->name) < 0; });
+  }
+  return index;
+}
+
+// The first entry, in name order, whose name is not below text.
+std::vector<drs_entry *>::const_iterator first_not_below(const entry_index &index, const char *text) {
+  return std::lower_bound(index.by_name.begin(), index.by_name.end(), text,
+                          [](const drs_entry *e, const char *t) { return strcmp(e->name, t) < 0; });
+}
+
+} // namespace
+
 bool all_drs_entries_flagged(const char *key, bool exact, bool value, bool every) {
   if (!key || !drs_read_entries) return false;
-  if (exact) {
-    for (drs_entry *e : *drs_read_entries)
-      if (e->name && strcmp(e->name, key) == 0) return e->fully_handled == value;
-    return false;
-  }
+  const entry_index &index = current_entry_index();
+  auto it = first_not_below(index, key);
+  if (exact)
+    return it != index.by_name.end() && strcmp((*it)->name, key) == 0 && (*it)->fully_handled == value;
+  // In list order the answer would be: with every, whether all entries of the prefix agree; without
+  // it, whether one does; false when none has the prefix. Order among them doesn't change that.
   size_t n = strlen(key);
-  bool matched = false, last_agreed = false;
-  for (drs_entry *e : *drs_read_entries) {
-    if (!e->name || strncmp(e->name, key, n) != 0) continue;
+  bool matched = false;
+  for (; it != index.by_name.end() && strncmp((*it)->name, key, n) == 0; ++it) {
     matched = true;
-    last_agreed = e->fully_handled == value;
-    if (last_agreed && !every) return true;
-    if (!last_agreed && every) return false;
+    bool agreed = (*it)->fully_handled == value;
+    if (agreed && !every) return true;
+    if (!agreed && every) return false;
   }
-  return matched && last_agreed;
+  return matched && every;
 }
 
 bool drs_write_is_uncertain(int pointer_mode, const char *key) {
@@ -344,7 +388,8 @@ bool drs_write_is_uncertain(int pointer_mode, const char *key) {
   if (!drs_read_entries || !key) return true;
   const char *target = bufprintf("%s*", key);
   size_t n = strlen(target);
-  for (drs_entry *e : *drs_read_entries)
-    if (e->name && strncmp(e->name, target, n) == 0 && !e->fully_handled) return false;
+  const entry_index &index = current_entry_index();
+  for (auto it = first_not_below(index, target); it != index.by_name.end() && strncmp((*it)->name, target, n) == 0; ++it)
+    if (!(*it)->fully_handled) return false;
   return true;
 }

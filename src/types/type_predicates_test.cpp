@@ -5,6 +5,8 @@
 
 #include <cstring>
 #include <random>
+#include <string>
+#include <vector>
 
 #include "drs/drs_model.h"
 #include "types/ir_test_fixture.h"
@@ -343,6 +345,57 @@ TEST_F(drs_records_test, write_is_uncertain) {
   EXPECT_TRUE(drs_write_is_uncertain(DRS_PTR_MULTI, "p"));
   drs_file_version = 0;
   EXPECT_TRUE(drs_write_is_uncertain(DRS_PTR_MULTI, "p"));
+}
+
+// The walks of the list, as the questions are defined, beside the indexed answers.
+bool flagged_by_walk(const char *key, bool exact, bool value, bool every) {
+  if (exact) {
+    for (drs_entry *e : *drs_read_entries)
+      if (strcmp(e->name, key) == 0) return e->fully_handled == value;
+    return false;
+  }
+  bool matched = false, last_agreed = false;
+  for (drs_entry *e : *drs_read_entries) {
+    if (strncmp(e->name, key, strlen(key)) != 0) continue;
+    matched = true;
+    last_agreed = e->fully_handled == value;
+    if (last_agreed && !every) return true;
+    if (!last_agreed && every) return false;
+  }
+  return matched && last_agreed;
+}
+
+bool uncertain_by_walk(const char *key) {
+  std::string target = std::string(key) + "*";
+  for (drs_entry *e : *drs_read_entries)
+    if (strncmp(e->name, target.c_str(), target.size()) == 0 && !e->fully_handled) return false;
+  return true;
+}
+
+TEST_F(drs_records_test, indexed_questions_agree_with_the_walks_on_random_entries) {
+  const char *parts[] = {"a", "b", ".x", ".#0", ".#1", "*", "*", ".return", "ab"};
+  std::mt19937 rng(7);
+  drs_file_version = -1;
+  std::vector<std::string> keys;
+  for (int round = 0; round < 200; ++round) {
+    // Grow the list, set some flags (false to true only), then ask.
+    for (int k = rng() % 6; k > 0; --k) {
+      std::string name = parts[rng() % 2];
+      for (int depth = rng() % 4; depth > 0; --depth) name += parts[2 + rng() % 7];
+      add(name.c_str(), rng() % 3 == 0);
+      keys.push_back(name);
+    }
+    for (drs_entry *e : *drs_read_entries)
+      if (rng() % 20 == 0) e->fully_handled = true;
+    for (int q = 0; q < 20; ++q) {
+      std::string key = keys[rng() % keys.size()];
+      key.resize(rng() % (key.size() + 1));
+      bool exact = rng() % 2, value = rng() % 2, every = rng() % 2;
+      ASSERT_EQ(all_drs_entries_flagged(key.c_str(), exact, value, every), flagged_by_walk(key.c_str(), exact, value, every))
+          << key << " " << exact << value << every;
+      ASSERT_EQ(drs_write_is_uncertain(DRS_PTR_MULTI, key.c_str()), uncertain_by_walk(key.c_str())) << key;
+    }
+  }
 }
 
 }  // namespace
