@@ -1,13 +1,15 @@
 // One pass over the file-level declarations of each unit, in source order,
 // puts symbols into the tables in order of first appearance. A declaration of
-// a system header enters only when the unit refers to it: the program is what
-// the user wrote and what it uses, not the whole C library. Symbols are
+// a system header enters only when the user's code reaches it (used_decls):
+// the program is what the user wrote and what it uses, not the whole C
+// library. Symbols are
 // remembered per unit by canonical declaration, and across units by name.
 #include "cfront/symbol_linker.h"
 
 #include "cfront/body_builder.h"
 #include "cfront/orig_spelling.h"
 #include "cfront/type_converter.h"
+#include "cfront/used_decls.h"
 #include "ir/ir.h"
 
 #include <clang/AST/ASTContext.h>
@@ -19,6 +21,7 @@
 #include <llvm/ADT/StringMap.h>
 
 #include <cstdio>
+#include <cstring>
 #include <string>
 #include <unordered_map>
 #include <unordered_set>
@@ -40,6 +43,10 @@ std::unordered_set<proc_sym *> user_declared_procs;
 // Where each symbol was first seen (its definition, for a function), for
 // warnings; a coordinate rather than its text, as there is one per symbol.
 llvm::DenseMap<sym_node *, coord> first_place;
+// The declaration whose type the symbol has, for warnings about types.
+llvm::DenseMap<sym_node *, coord> type_place;
+// What the unit's own code reaches of the system headers.
+llvm::DenseSet<const clang::Decl *> unit_used;
 std::unordered_set<std::string> fundamental_seen;
 
 std::string place_text(const coord &c) {
@@ -48,15 +55,12 @@ std::string place_text(const coord &c) {
 
 std::string place_text(const clang::Decl *d) { return place_text(coord_of(d)); }
 
-bool in_system_header(const clang::Decl *d) {
-    clang::SourceLocation loc = d->getLocation();
-    if (loc.isInvalid()) return true;  // the compiler's own declarations
-    return ctx->getSourceManager().isInSystemHeader(ctx->getSourceManager().getExpansionLoc(loc));
-}
+bool in_system_header(const clang::Decl *d) { return decl_in_system_header(*ctx, d); }
 
-// Declarations of system headers and of the compiler count only when used.
+// Declarations of system headers and of the compiler count only when the
+// user's code reaches them.
 bool wanted(const clang::Decl *d) {
-    return !in_system_header(d) || d->isReferenced();
+    return !in_system_header(d) || unit_used.count(d->getCanonicalDecl());
 }
 
 void set_coordinates(suif_object *o, const clang::Decl *d) {
@@ -118,17 +122,20 @@ func_type *function_type_of(const clang::FunctionDecl *fd) {
     return static_cast<func_type *>(ir_type(last->getType()));
 }
 
-// The unit's view of a variable's type; an array of unknown bound that
-// clang completed at the end of the unit keeps its unknown bound.
-type_node *variable_type_of(const clang::VarDecl *vd, bool *tentative_array) {
+// The unit's view of a variable's type, and in *from the declaration that
+// gives it; an array of unknown bound that clang completed at the end of the
+// unit keeps its unknown bound.
+type_node *variable_type_of(const clang::VarDecl *vd, bool *tentative_array, const clang::VarDecl **from = nullptr) {
     *tentative_array = false;
     for (const clang::VarDecl *r : vd->redecls()) {
         if (r->isThisDeclarationADefinition() == clang::VarDecl::TentativeDefinition && r->getTypeSourceInfo() &&
             r->getTypeSourceInfo()->getType()->isIncompleteArrayType() && r->isFileVarDecl()) {
             *tentative_array = true;
+            if (from) *from = r;
             return ir_type(r->getTypeSourceInfo()->getType());
         }
     }
+    if (from) *from = vd->getMostRecentDecl();
     return ir_type(vd->getMostRecentDecl()->getType());
 }
 
@@ -138,24 +145,38 @@ void merge_proc_type(proc_sym *p, const clang::FunctionDecl *fd) {
     if (!t->args_known()) return;
     if (!p->type()->args_known()) {
         p->set_type(t);
+        type_place[p] = coord_of(fd->getMostRecentDecl());
         annotate_orig_types(p, *ctx, fd->getMostRecentDecl());
         return;
     }
     fprintf(stderr, "qvt-cfront: warning: function '%s' is declared with different types at %s and %s\n",
-            p->true_name(), place_text(first_place[p]).c_str(), place_text(fd).c_str());
+            p->true_name(), place_text(type_place[p]).c_str(), place_text(fd->getMostRecentDecl()).c_str());
 }
 
-void merge_var_type(var_sym *v, type_node *t, const clang::VarDecl *vd) {
-    if (v->type() == t) return;
-    type_node *old = v->type();
-    if (old->is_array() && t->is_array() && static_cast<array_type *>(old)->are_bounds_unknown() &&
-        !static_cast<array_type *>(t)->are_bounds_unknown()) {
-        v->set_type(t);
-        return;
+// 1 if b is a, but for an array bound that b knows and a doesn't; -1 the
+// other way round; 0 otherwise. C calls such types compatible, and the
+// complete one is the variable's type.
+int completes(type_node *a, type_node *b) {
+    while (a->op() == b->op() && a->is_modifier()) {
+        a = static_cast<modifier_type *>(a)->base();
+        b = static_cast<modifier_type *>(b)->base();
     }
-    if (t->is_array() && static_cast<array_type *>(t)->are_bounds_unknown()) return;
+    if (!a->is_array() || !b->is_array()) return 0;
+    auto *aa = static_cast<array_type *>(a), *ab = static_cast<array_type *>(b);
+    if (aa->elem_type() != ab->elem_type() || aa->are_bounds_unknown() == ab->are_bounds_unknown()) return 0;
+    return aa->are_bounds_unknown() ? 1 : -1;
+}
+
+void merge_var_type(var_sym *v, type_node *t, const clang::VarDecl *from) {
+    if (v->type() == t) return;
+    int c = completes(v->type(), t);
+    if (c == 1) {
+        v->set_type(t);
+        type_place[v] = coord_of(from);
+    }
+    if (c != 0) return;
     fprintf(stderr, "qvt-cfront: warning: variable '%s' is declared with different types at %s and %s\n",
-            v->true_name(), place_text(first_place[v]).c_str(), place_text(vd).c_str());
+            v->true_name(), place_text(type_place[v]).c_str(), place_text(from).c_str());
 }
 
 void define_var(var_sym *v, const clang::VarDecl *def, bool tentative_array) {
@@ -186,8 +207,15 @@ void add_function(const clang::FunctionDecl *fd) {
     if (!in_system_header(fd)) user_declared_procs.insert(p);
     if (!fd->doesThisDeclarationHaveABody()) return;
     if (p->src_lang() != src_unknown) {
-        fprintf(stderr, "qvt-cfront: warning: function '%s' is defined at %s and %s; the first is kept\n",
-                p->true_name(), place_text(first_place[p]).c_str(), place_text(fd).c_str());
+        if (strcmp(p->name(), "main") == 0)
+            fprintf(stderr,
+                    "qvt-cfront: warning: two programs meet: 'main' is defined at %s and %s; the first is kept. "
+                    "Give the files of one program, or take one out of a compilation database with -db-files "
+                    "or -db-outputs\n",
+                    place_text(first_place[p]).c_str(), place_text(fd).c_str());
+        else
+            fprintf(stderr, "qvt-cfront: warning: function '%s' is defined at %s and %s; the first is kept\n",
+                    p->true_name(), place_text(first_place[p]).c_str(), place_text(fd).c_str());
         return;
     }
     p->set_src_lang(src_c);
@@ -290,6 +318,7 @@ void link_begin(file_set_entry *fse) {
     linked_procs.clear();
     user_declared_procs.clear();
     first_place.clear();
+    type_place.clear();
     fundamental_seen.clear();
 }
 
@@ -327,6 +356,7 @@ proc_sym *linked_proc(const clang::FunctionDecl *fd) {
         p->set_userdef();
         set_coordinates(p, fd);
         first_place[p] = coord_of(fd);
+        type_place[p] = coord_of(fd->getMostRecentDecl());
         annotate_orig_types(p, *ctx, fd->getMostRecentDecl());
     }
     bool is_inline = false;
@@ -344,7 +374,8 @@ var_sym *linked_var(const clang::VarDecl *vd) {
     auto it = unit_syms.find(canon);
     if (it != unit_syms.end()) return static_cast<var_sym *>(it->second);
     bool tentative_array = false;
-    type_node *t = variable_type_of(vd, &tentative_array);
+    const clang::VarDecl *type_from = vd;
+    type_node *t = variable_type_of(vd, &tentative_array, &type_from);
     llvm::StringRef name = vd->getName();
     var_sym *v = nullptr;
     bool is_new = false;
@@ -358,7 +389,7 @@ var_sym *linked_var(const clang::VarDecl *vd) {
         auto g = global_vars.find(name);
         if (g != global_vars.end()) {
             v = g->second;
-            merge_var_type(v, t, vd);
+            merge_var_type(v, t, type_from);
         } else {
             move_static_aside(name.str());
             v = global_st->new_var(t, name.str().c_str());
@@ -371,6 +402,7 @@ var_sym *linked_var(const clang::VarDecl *vd) {
         v->set_userdef();
         set_coordinates(v, vd);
         first_place[v] = coord_of(vd);
+        type_place[v] = coord_of(type_from);
         linked_vars.push_back(v);
     }
     unit_syms[canon] = v;
@@ -387,6 +419,8 @@ void note_read(var_sym *v) {
 void link_unit(clang::ASTContext &c, const std::vector<pragma_words> &pragmas) {
     ctx = &c;
     unit_syms.clear();
+    unit_used.clear();
+    collect_used_decls(c, &unit_used);
     types_begin_unit(c);
     add_decls(c.getTranslationUnitDecl());
     for (const pragma_words &words : pragmas) {

@@ -1,11 +1,15 @@
 // Types are converted from their canonical form, so typedefs vanish and two
 // spellings of one type meet in one cache entry. Non-aggregate nodes are
 // shared through install_type, which finds an equal node already installed.
-// Structs, unions and enums are matched across units by hand: a tag defined
-// at one place of one header is one type in every unit that includes it, and
-// a tag only declared in one unit is the type that another unit defines.
-// Unnamed tags get a number as their IR name, so that they can't be mistaken
-// for a C tag.
+// Structs, unions and enums are matched across units by C's compatibility
+// rule: a definition's signature spells its members in order (names, bit
+// widths, types, with structs held by value spelled out and those behind a
+// pointer by tag only, so no signature is cyclic) and its layout. One tag with
+// one signature is one type wherever it is defined; a tag with a second
+// signature is a second type, whose IR tag is made unique and which keeps the
+// source's tag in k_source_tag. A tag only declared in one unit is the type
+// that another unit defines. Unnamed tags get a number as their IR name, so
+// that they can't be mistaken for a C tag.
 #include "cfront/type_converter.h"
 
 #include "ir/ir.h"
@@ -22,6 +26,7 @@
 #include <map>
 #include <string>
 #include <unordered_map>
+#include <unordered_set>
 #include <vector>
 
 namespace {
@@ -34,10 +39,14 @@ llvm::DenseMap<const void *, type_node *> unit_cache;
 struct tag_entry {
     type_node *node;
     bool complete;
+    std::string signature;  // of the definition, once complete
 };
-std::map<std::string, type_node *> tag_by_place;           // kind + definition place
+std::map<std::string, type_node *> tag_by_place;           // kind + definition place + signature
 std::map<std::string, std::vector<tag_entry>> tag_by_name;  // kind + tag
+std::unordered_set<std::string> ir_tags;                    // every IR tag given, of all kinds
 int unnamed_tag_counter = 0;
+// The unit's signatures, by definition.
+llvm::DenseMap<const clang::TagDecl *, std::string> unit_signatures;
 
 type_node *install(type_node *t) {
     type_node *canon = global_st->install_type(t);
@@ -58,32 +67,131 @@ const char *kind_word(const clang::TagDecl *d) {
     return d->isUnion() ? "union " : d->isEnum() ? "enum " : "struct ";
 }
 
-// The tag node of d: found by place or by name, or made by make() and
-// registered. *fresh tells whether the caller must fill it in.
+std::string signature_of(const clang::TagDecl *def);
+
+// The signature of a type: by_value tells whether a struct met here is held
+// by value (its members count) or behind a pointer (its tag only).
+std::string type_signature(clang::QualType qt, bool by_value) {
+    clang::QualType t = ctx->getCanonicalType(qt);
+    std::string q = std::string(t.isConstQualified() ? "const " : "") + (t.isVolatileQualified() ? "volatile " : "");
+    const clang::Type *ty = t.getTypePtr();
+    if (const auto *pt = llvm::dyn_cast<clang::PointerType>(ty)) return q + "*" + type_signature(pt->getPointeeType(), false);
+    if (const auto *at = llvm::dyn_cast<clang::ConstantArrayType>(ty))
+        return q + "[" + std::to_string(at->getSize().getZExtValue()) + "]" + type_signature(at->getElementType(), by_value);
+    if (const auto *at = llvm::dyn_cast<clang::ArrayType>(ty)) return q + "[]" + type_signature(at->getElementType(), by_value);
+    if (const auto *ft = llvm::dyn_cast<clang::FunctionType>(ty)) {
+        std::string text = q + "fn(";
+        if (const auto *proto = llvm::dyn_cast<clang::FunctionProtoType>(ft)) {
+            for (clang::QualType p : proto->getParamTypes()) text += type_signature(p, false) + ",";
+            if (proto->isVariadic()) text += "...";
+        } else {
+            text += "?";
+        }
+        return text + ")" + type_signature(ft->getReturnType(), false);
+    }
+    if (const auto *tt = llvm::dyn_cast<clang::TagType>(ty)) {
+        const clang::TagDecl *d = tt->getDecl();
+        std::string text = q + kind_word(d) + d->getName().str();
+        const clang::TagDecl *def = d->getDefinition();
+        if (by_value && def) text += "{" + signature_of(def) + "}";
+        return text;
+    }
+    return q + clang::QualType(ty, 0).getAsString();
+}
+
+// The signature of a definition: its layout, then its members.
+std::string signature_of(const clang::TagDecl *def) {
+    auto it = unit_signatures.find(def);
+    if (it != unit_signatures.end()) return it->second;
+    std::string text;
+    if (const auto *ed = llvm::dyn_cast<clang::EnumDecl>(def)) {
+        text = type_signature(ed->getIntegerType(), false) + ":";
+        for (const clang::EnumConstantDecl *c : ed->enumerators())
+            text += c->getName().str() + "=" + llvm::toString(c->getInitVal(), 10) + ",";
+    } else {
+        const auto *rd = llvm::cast<clang::RecordDecl>(def);
+        const clang::ASTRecordLayout &layout = ctx->getASTRecordLayout(rd);
+        text = std::to_string(layout.getSize().getQuantity()) + "/" + std::to_string(layout.getAlignment().getQuantity()) + ":";
+        for (const clang::FieldDecl *fd : rd->fields()) {
+            text += fd->getName().str();
+            if (fd->isBitField()) text += ":" + std::to_string(fd->getBitWidthValue(*ctx));
+            text += " " + type_signature(fd->getType(), true) + ";";
+        }
+    }
+    unit_signatures[def] = text;
+    return text;
+}
+
+// A tag that no type of the program has yet, for a second type of one
+// source tag: the tag with the base name of its file, then with a number too.
+std::string unique_tag(const std::string &tag, const clang::Decl *def) {
+    const clang::SourceManager &sm = ctx->getSourceManager();
+    clang::PresumedLoc p = sm.getPresumedLoc(sm.getExpansionLoc(def->getLocation()));
+    std::string file = p.isValid() ? p.getFilename() : "";
+    size_t slash = file.find_last_of('/');
+    if (slash != std::string::npos) file = file.substr(slash + 1);
+    size_t dot = file.find('.');
+    if (dot != std::string::npos) file = file.substr(0, dot);
+    for (char &c : file)
+        if (!isalnum((unsigned char)c)) c = '_';
+    std::string base = tag + "_" + file;
+    std::string cand = base;
+    for (int i = 2; ir_tags.count(cand); i++) cand = base + "_" + std::to_string(i);
+    return cand;
+}
+
+// A new tag node of d under its source tag, or under a unique one (with the
+// source tag kept) if another type has that tag already.
+type_node *new_tag(const clang::TagDecl *d, type_node *(*make)(const clang::TagDecl *, const char *)) {
+    std::string name = d->getName().str();
+    if (name.empty()) return make(d, std::to_string(++unnamed_tag_counter).c_str());
+    if (!ir_tags.count(name)) {
+        ir_tags.insert(name);
+        return make(d, name.c_str());
+    }
+    std::string ir_name = unique_tag(name, d->getDefinition() ? d->getDefinition() : d);
+    ir_tags.insert(ir_name);
+    type_node *t = make(d, ir_name.c_str());
+    immed_list *l = new immed_list;
+    l->append(immed(name.c_str()));
+    t->append_annote(k_source_tag, l);
+    return t;
+}
+
+// The tag node of d: found by place or by name and signature, or made by
+// make() and registered. *fresh tells whether the caller must fill it in.
 type_node *find_tag(const clang::TagDecl *d, bool *fresh, type_node *(*make)(const clang::TagDecl *, const char *)) {
     const clang::TagDecl *def = d->getDefinition();
     std::string name = d->getName().str();
     std::string name_key = kind_word(d) + name;
     *fresh = false;
     if (def) {
-        std::string key = kind_word(d) + place_of(def);
+        std::string sig = signature_of(def);
+        std::string key = kind_word(d) + place_of(def) + "\n" + sig;
         auto it = tag_by_place.find(key);
         if (it != tag_by_place.end()) return it->second;
-        // A named tag that some unit only declared so far takes this definition.
         if (!name.empty()) {
-            for (tag_entry &e : tag_by_name[name_key]) {
+            std::vector<tag_entry> &entries = tag_by_name[name_key];
+            for (tag_entry &e : entries) {
+                if (e.complete && e.signature == sig) {
+                    tag_by_place[key] = e.node;
+                    return e.node;
+                }
+            }
+            // A tag that some unit only declared so far takes this definition.
+            for (tag_entry &e : entries) {
                 if (!e.complete) {
                     e.complete = true;
+                    e.signature = sig;
                     tag_by_place[key] = e.node;
                     *fresh = true;
                     return e.node;
                 }
             }
         }
-        std::string ir_name = name.empty() ? std::to_string(++unnamed_tag_counter) : name;
-        type_node *t = make(d, ir_name.c_str());
+        type_node *t = new_tag(d, make);
         tag_by_place[key] = t;
-        if (!name.empty()) tag_by_name[name_key].push_back(tag_entry{t, true});
+        if (!name.empty()) tag_by_name[name_key].push_back(tag_entry{t, true, sig});
         *fresh = true;
         return t;
     }
@@ -92,9 +200,8 @@ type_node *find_tag(const clang::TagDecl *d, bool *fresh, type_node *(*make)(con
         auto &v = tag_by_name[name_key];
         if (!v.empty()) return v.front().node;
     }
-    std::string ir_name = name.empty() ? std::to_string(++unnamed_tag_counter) : name;
-    type_node *t = make(d, ir_name.c_str());
-    if (!name.empty()) tag_by_name[name_key].push_back(tag_entry{t, false});
+    type_node *t = new_tag(d, make);
+    if (!name.empty()) tag_by_name[name_key].push_back(tag_entry{t, false, ""});
     return t;
 }
 
@@ -269,10 +376,12 @@ type_node *convert_unqualified(const clang::Type *t) {
 void types_begin_unit(clang::ASTContext &c) {
     ctx = &c;
     unit_cache.clear();
+    unit_signatures.clear();
 }
 
 void types_end_unit() {
     unit_cache.clear();
+    unit_signatures.clear();
     ctx = nullptr;
 }
 

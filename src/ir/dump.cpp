@@ -14,7 +14,7 @@ static FILE *dump_out = stdout;
 
 static std::string type_text(type_node *t) {
     if (!t) return "?";
-    return std::string(suif_c_type_string(t));
+    return std::string(ir_c_type_string(t));
 }
 
 static std::string immed_text(const immed &im) {

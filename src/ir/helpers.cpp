@@ -134,39 +134,51 @@ const char *c_type_to_string(C_types c, bool is_signed) {
     }
 }
 
-static std::string c_spelling(type_node *t, int depth) {
+// The tag of a struct, union or enum: the source's (when the front end made
+// it unique in the IR) or the IR's.
+static const char *tag_of(type_node *t, const char *ir_tag, bool source_tags) {
+    if (source_tags)
+        if (annote *a = t->peek_annote(k_source_tag))
+            if (a->immeds() && !a->immeds()->is_empty() && a->immeds()->head()->contents.is_string())
+                return a->immeds()->head()->contents.string();
+    return ir_tag;
+}
+
+static std::string c_spelling(type_node *t, int depth, bool src) {
     if (!t) return "void";
     if (depth > 32) return "...";
     switch (t->op()) {
     case TYPE_INT: return c_type_to_string(c_int_type(t), !non_negative(t));
     case TYPE_FLOAT: return c_type_to_string(c_float_type(t), true);
     case TYPE_VOID: return "void";
-    case TYPE_PTR: return c_spelling(static_cast<ptr_type *>(t)->ref_type(), depth + 1) + " *";
+    case TYPE_PTR: return c_spelling(static_cast<ptr_type *>(t)->ref_type(), depth + 1, src) + " *";
     case TYPE_ARRAY: {
         auto a = static_cast<array_type *>(t);
         std::string b = a->upper_bound().is_constant() ? std::to_string(a->upper_bound().constant() + 1) : "";
-        return c_spelling(a->elem_type(), depth + 1) + "[" + b + "]";
+        return c_spelling(a->elem_type(), depth + 1, src) + "[" + b + "]";
     }
     case TYPE_FUNC: {
         auto f = static_cast<func_type *>(t);
-        std::string s = c_spelling(f->return_type(), depth + 1) + " (";
+        std::string s = c_spelling(f->return_type(), depth + 1, src) + " (";
         for (unsigned i = 0; i < f->num_args(); ++i)
-            s += (i ? ", " : "") + c_spelling(f->arg_type(i), depth + 1);
+            s += (i ? ", " : "") + c_spelling(f->arg_type(i), depth + 1, src);
         if (f->has_varargs()) s += f->num_args() ? ", ..." : "...";
         else if (!f->num_args() && f->args_known()) s += "void";
         return s + ")";
     }
     case TYPE_GROUP:
-    case TYPE_STRUCT: return std::string("struct ") + static_cast<struct_type *>(t)->name();
-    case TYPE_UNION: return std::string("union ") + static_cast<struct_type *>(t)->name();
-    case TYPE_ENUM: return std::string("enum ") + static_cast<enum_type *>(t)->name();
-    case TYPE_CONST: return "const " + c_spelling(static_cast<modifier_type *>(t)->base(), depth + 1);
-    case TYPE_VOLATILE: return "volatile " + c_spelling(static_cast<modifier_type *>(t)->base(), depth + 1);
-    default: return c_spelling(static_cast<modifier_type *>(t)->base(), depth + 1);
+    case TYPE_STRUCT: return std::string("struct ") + tag_of(t, static_cast<struct_type *>(t)->name(), src);
+    case TYPE_UNION: return std::string("union ") + tag_of(t, static_cast<struct_type *>(t)->name(), src);
+    case TYPE_ENUM: return std::string("enum ") + tag_of(t, static_cast<enum_type *>(t)->name(), src);
+    case TYPE_CONST: return "const " + c_spelling(static_cast<modifier_type *>(t)->base(), depth + 1, src);
+    case TYPE_VOLATILE: return "volatile " + c_spelling(static_cast<modifier_type *>(t)->base(), depth + 1, src);
+    default: return c_spelling(static_cast<modifier_type *>(t)->base(), depth + 1, src);
     }
 }
 
-const char *suif_c_type_string(type_node *t) { return intern(c_spelling(t, 0).c_str()); }
+const char *suif_c_type_string(type_node *t) { return intern(c_spelling(t, 0, true).c_str()); }
+
+const char *ir_c_type_string(type_node *t) { return intern(c_spelling(t, 0, false).c_str()); }
 
 i_integer inttype_min(int size, bool is_signed) {
     if (!is_signed || size <= 0) return i_integer(0);

@@ -28,8 +28,11 @@ C_types c_int_type(type_node *t);
 C_types c_float_type(type_node *t);
 // "signed char", "unsigned long long", "double", ...: plain C words.
 const char *c_type_to_string(C_types c, bool is_signed);
-// A C spelling of any type, without names ("int *", "struct s", ...).
+// A C spelling of any type, without names ("int *", "struct s", ...), with
+// the source's tags (k_source_tag), as people know the types.
 const char *suif_c_type_string(type_node *t);
+// The same with the IR's own tags.
+const char *ir_c_type_string(type_node *t);
 // Bounds of an integer, enum or pointer type, and of a size in bits.
 i_integer inttype_min(type_node *t);
 i_integer inttype_max(type_node *t);

@@ -26,6 +26,7 @@ const char *k_sbit_init = intern("k_sbit_init");
 const char *k_fields = intern("k_fields");
 const char *k_enable_exceptions = intern("k_enable_exceptions");
 const char *k_max_align = intern("k_max_align");
+const char *k_source_tag = intern("k_source_tag");
 const char *k_size_t = intern("size_t");
 const char *k_ptrdiff_t = intern("ptrdiff_t");
 const char *k_wchar_t = intern("wchar_t");

@@ -35,6 +35,9 @@ extern const char *k_enable_exceptions;
 
 // On a struct type: the packing in bytes (first immed, integer).
 extern const char *k_max_align;
+// On a struct, union or enum type whose tag the front end made unique (a
+// second, different type of one tag): the tag of the source (string).
+extern const char *k_source_tag;
 
 // User definitions of the fundamental types, on the global symbol table:
 // the annotation is named by the type ("size_t", ...), immeds: signedness
