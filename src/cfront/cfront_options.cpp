@@ -1,4 +1,4 @@
-// Command line of qvt-cfront. Our own options (-o, -p, -tasks, -j,
+// Command line of qvt-cfront. Our own options (-o, -p, -db-files, -db-outputs, -tasks, -j,
 // -analyser-libc, --help, --version) are taken out; everything else is a clang option that every
 // unit gets, in the order given. Options that take their value as the next
 // word are listed so that the value is not mistaken for a source file.
@@ -46,6 +46,9 @@ const char *cfront_usage() {
            "\n"
            "  -o FILE        the IR file to write (required)\n"
            "  -p DIR         take every C file of DIR/compile_commands.json, each with its own flags\n"
+           "  -db-files G,.. with -p: only the entries whose source file matches a glob G\n"
+           "  -db-outputs G  with -p: only the entries whose output matches a glob G (one\n"
+           "                 target's objects: 'CMakeFiles/TARGET.dir/*')\n"
            "  -tasks a,b     mark the functions a and b as tasks\n"
            "  -j N           parse with N threads (default: all cores)\n"
            "  -analyser-libc leave the functions declared only in system headers to the\n"
@@ -108,6 +111,11 @@ bool parse_cfront_options(int argc, const char *const *argv, cfront_options *opt
             for (auto &t : split_commas(v)) opts->tasks.push_back(t);
         } else if (strncmp(a, "-tasks=", 7) == 0) {
             for (auto &t : split_commas(a + 7)) opts->tasks.push_back(t);
+        } else if (strcmp(a, "-db-files") == 0 || strcmp(a, "-db-outputs") == 0) {
+            const char *v = value(a);
+            if (!v) return false;
+            auto &globs = strcmp(a, "-db-files") == 0 ? opts->db_select.files : opts->db_select.outputs;
+            for (auto &g : split_commas(v)) globs.push_back(g);
         } else if (strcmp(a, "-analyser-libc") == 0) {
             opts->analyser_libc = true;
         } else if (strcmp(a, "-j") == 0 || (strncmp(a, "-j", 2) == 0 && a[2])) {
@@ -141,12 +149,18 @@ bool parse_cfront_options(int argc, const char *const *argv, cfront_options *opt
             *err = "give either source files or -p DIR, not both";
             return false;
         }
-        if (!load_compile_db(db_dir, clang_args, &opts->units, err)) return false;
+        if (!load_compile_db(db_dir, clang_args, opts->db_select, &opts->units, err)) return false;
         if (opts->units.empty()) {
-            *err = db_dir + "/compile_commands.json: no C file in the compilation database";
+            bool selected = !opts->db_select.files.empty() || !opts->db_select.outputs.empty();
+            *err = db_dir + "/compile_commands.json: no C file in the compilation database" +
+                   (selected ? " matches -db-files and -db-outputs" : "");
             return false;
         }
         return output_is_no_source(*opts, err);
+    }
+    if (!opts->db_select.files.empty() || !opts->db_select.outputs.empty()) {
+        *err = "-db-files and -db-outputs select entries of a compilation database: give -p DIR";
+        return false;
     }
     if (files.empty()) {
         *err = "no input file";

@@ -13,6 +13,13 @@ struct tu_job {
     std::vector<std::string> args;
 };
 
+// Entries of a compilation database to take: those whose source file, and
+// those whose output, matches one of the globs (each list empty: all).
+struct db_selection {
+    std::vector<std::string> files;
+    std::vector<std::string> outputs;
+};
+
 struct cfront_options {
     std::vector<tu_job> units;
     std::string output;
@@ -20,6 +27,8 @@ struct cfront_options {
     int threads = 0;  // 0: all cores
     // Functions declared only in system headers are left to the analyser's own C library.
     bool analyser_libc = false;
+    // Globs that pick one program's entries out of a compilation database.
+    db_selection db_select;
     bool show_help = false;
     bool show_version = false;
 };

@@ -6,8 +6,8 @@
 #include <string>
 #include <vector>
 
-// Appends one job per C file of DIR/compile_commands.json, in the order of
-// the database, each with its own flags followed by extra_args. False with
-// *err set if the database can't be read.
+// Appends one job per C file of DIR/compile_commands.json that `select`
+// takes, in the order of the database, each with extra_args and its own
+// flags. False with *err set if the database can't be read.
 bool load_compile_db(const std::string &dir, const std::vector<std::string> &extra_args,
-                     std::vector<tu_job> *units, std::string *err);
+                     const db_selection &select, std::vector<tu_job> *units, std::string *err);

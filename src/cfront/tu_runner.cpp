@@ -49,6 +49,23 @@ void take_turn(size_t i, std::string &diag_text, bool ok, clang::ASTContext *ctx
     turn_changed.notify_all();
 }
 
+// clang's printer, but a diagnostic without a place (one about the unit's
+// command line, such as an unknown option) is prefixed with the unit's file,
+// so that a database's broken entry can be found.
+class unit_printer : public clang::TextDiagnosticPrinter {
+public:
+    unit_printer(llvm::raw_ostream &os, clang::DiagnosticOptions *opts, const std::string &file)
+        : clang::TextDiagnosticPrinter(os, opts), file_prefix("qvt-cfront: " + file) {}
+
+    void HandleDiagnostic(clang::DiagnosticsEngine::Level level, const clang::Diagnostic &info) override {
+        setPrefix(info.getLocation().isValid() ? "" : file_prefix);
+        clang::TextDiagnosticPrinter::HandleDiagnostic(level, info);
+    }
+
+private:
+    std::string file_prefix;
+};
+
 class parse_action : public clang::ASTFrontendAction {
 public:
     parse_action(size_t index, std::string &diag_text, const unit_consumer &consume)
@@ -82,12 +99,17 @@ void run_one(size_t index, const tu_job &job, const unit_consumer &consume) {
     llvm::raw_string_ostream diag_os(diag_text);
     std::vector<std::string> words = {"clang", "-fsyntax-only", "-resource-dir", QVT_CLANG_RESOURCE_DIR};
     words.insert(words.end(), job.args.begin(), job.args.end());
+    // A command written for another compiler may hold its own warning and
+    // optimisation options, or options of later build steps; under -Werror
+    // clang would refuse every such unit.
+    for (const char *w : {"-Wno-unknown-warning-option", "-Wno-ignored-optimization-argument",
+                          "-Wno-unused-command-line-argument"})
+        words.push_back(w);
     std::vector<const char *> argv;
     for (auto &w : words) argv.push_back(w.c_str());
 
     llvm::IntrusiveRefCntPtr<clang::DiagnosticOptions> driver_diag_opts = new clang::DiagnosticOptions();
-    auto *driver_printer = new clang::TextDiagnosticPrinter(diag_os, driver_diag_opts.get());
-    driver_printer->setPrefix("qvt-cfront");
+    auto *driver_printer = new unit_printer(diag_os, driver_diag_opts.get(), job.file);
     llvm::IntrusiveRefCntPtr<clang::DiagnosticsEngine> driver_diags =
         new clang::DiagnosticsEngine(new clang::DiagnosticIDs(), driver_diag_opts, driver_printer);
     llvm::IntrusiveRefCntPtr<llvm::vfs::FileSystem> fs = llvm::vfs::createPhysicalFileSystem();
@@ -112,7 +134,7 @@ void run_one(size_t index, const tu_job &job, const unit_consumer &consume) {
 
     clang::CompilerInstance ci;
     ci.setInvocation(inv);
-    ci.createDiagnostics(new clang::TextDiagnosticPrinter(diag_os, &inv->getDiagnosticOpts()), true);
+    ci.createDiagnostics(new unit_printer(diag_os, &inv->getDiagnosticOpts(), job.file), true);
     ci.setVerboseOutputStream(diag_os);
     ci.createFileManager(fs);
     parse_action action(index, diag_text, consume);
