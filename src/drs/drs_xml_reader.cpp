@@ -94,7 +94,7 @@ void drs_read_xml_file() {
     } else if (kind == 2) {
       int raw = 0;
       int status = drs_get_pointer(min, 0, max, 0, &raw);
-      unsigned pointer_kind = known_pointer_kind(raw) ? raw : DRS_PTR_MULTI;
+      unsigned pointer_kind = known_pointer_kind(raw) ? (unsigned)raw : (unsigned)DRS_PTR_MULTI;
       if (status == 0 && drs_main_vars) {
         if (sym_node *var = find_symbol(entry_name, SYM_VAR))
           vars.remove(var);
