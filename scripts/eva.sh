@@ -9,7 +9,8 @@
 # analysis starts there. A program whose own `main` takes arguments starts at __qvt_eva_main of
 # target/qvt_eva_main.c, which calls main with an argv as the system builds it: the generated
 # entry point passes main volatile locals, which Eva reads as uninitialised, so that every path
-# through argv would be dead.
+# through argv would be dead. With tasks as well, the task calls of the entry point are copied
+# after a call of __qvt_eva_main.
 set -euo pipefail
 
 usage() {
@@ -96,16 +97,25 @@ files+=("${stub_files[@]}")
 [ -f "$stubs/__quorvanta_main.c" ] && files+=("$stubs/__quorvanta_main.c")
 
 # The entry, and why.
+main_takes_args() {
+  awk '/\/\* call of function main \*\//{getline; if ($0 !~ /main\((__QVT__VOID)?\);/) found=1} END{exit !found}' \
+    "${stub_files[@]}"
+}
 entry_args=()
+work=""
 if [ -z "$entry" ]; then
   if [ -f "$stubs/__quorvanta_main.c" ]; then
     entry=__QVT__MAIN__ENTRY__POINT__
     why="the generated main"
   elif grep -q '/\* call of task ' "${stub_files[@]}"; then
-    entry=__QVT__MAIN__ENTRY__POINT__
-    why="the program has tasks"
-  elif awk '/\/\* call of function main \*\//{getline; if ($0 !~ /main\((__QVT__VOID)?\);/) found=1} END{exit !found}' \
-      "${stub_files[@]}"; then
+    if main_takes_args; then
+      entry=__qvt_eva_tasks
+      why="the program has tasks, main takes arguments"
+    else
+      entry=__QVT__MAIN__ENTRY__POINT__
+      why="the program has tasks"
+    fi
+  elif main_takes_args; then
     entry=main
     why="main takes arguments"
   else
@@ -115,7 +125,23 @@ if [ -z "$entry" ]; then
 else
   why="given"
 fi
-if [ "$entry" = main ]; then
+if [ "$entry" = __qvt_eva_tasks ]; then
+  # The entry point as generated, but main called with its argv: its task calls are copied as
+  # they stand, after a call of __qvt_eva_main.
+  work=$(mktemp -d)
+  trap 'rm -rf "$work"' EXIT
+  {
+    printf '#include "qvt_stub_types.h"\n\nextern void assert(int);\nvoid __qvt_eva_main(void);\n'
+    printf 'static volatile int qvt_random_int;\n\nvoid __qvt_eva_tasks(void)\n{\n    __qvt_eva_main();\n'
+    awk '/^void __QVT__MAIN__ENTRY__POINT__\(void\)$/ { inside = 1; next }
+         inside && /^}$/ { inside = 0; copying = 0 }
+         inside && /^    if \(qvt_random_int\)$/ { copying = 1 }
+         copying { print }' "${stub_files[@]}"
+    printf '}\n'
+  } >"$work/qvt_eva_tasks.c"
+  files+=("$target/qvt_eva_main.c" "$work/qvt_eva_tasks.c")
+  entry_args=(-main __qvt_eva_tasks -eva-slevel-function main:20)
+elif [ "$entry" = main ]; then
   # main is called with each argument count apart; the states stay apart through main's first
   # checks of argc.
   files+=("$target/qvt_eva_main.c")
@@ -126,7 +152,7 @@ fi
 
 # Wall and processor time of the run, by the shell's own clock.
 timing=$(mktemp)
-trap 'rm -f "$timing"' EXIT
+trap 'rm -f "$timing"; [ -z "$work" ] || rm -rf "$work"' EXIT
 status=0
 TIMEFORMAT='%R %U %S'
 { time "$framac" -machdep gcc_x86_64 \

@@ -4,8 +4,9 @@
 // malloc returns is valid; the program's own undefined function keeps its stub, whose unknown
 // result raises the only alarms, on the index. Reachable are the entry, main and the stub. The
 // undefined globals (trace, and stderr of the C library) are left to Eva, without the file of
-// _extern_init. With a task the analysis starts at the generated entry point, which calls main
-// and the task; a library starts at it too, and it calls the generated main.
+// _extern_init. With a task, the task calls of the generated entry point follow a call of main
+// with its argv, and the task is reached; a library starts at the generated entry point, which
+// calls the generated main.
 // REQUIRES: framac
 // RUN: rm -rf %t && mkdir -p %t/stubs %t/tasks %t/lib
 // RUN: qvt-cfront -analyser-libc %s -o %t/p.ir
@@ -32,7 +33,8 @@
 // SUMMARY-NEXT:coverage: 3 of 3 reachable functions (100.0%)
 // SUMMARY-NEXT:alarms: 2: index_bound 2
 
-// TASKS:entry: __QVT__MAIN__ENTRY__POINT__ (the program has tasks)
+// TASKS:entry: __qvt_eva_tasks (the program has tasks, main takes arguments)
+// TASKS-NEXT:coverage: {{[0-9]+}} of {{[0-9]+}} reachable functions (100.0%)
 
 // LIBRARY:entry: __QVT__MAIN__ENTRY__POINT__ (the generated main)
 // LIBRARY-NEXT:coverage: {{([0-9]+)}} of {{([0-9]+)}} reachable functions (100.0%)
