@@ -12,7 +12,7 @@ packages=(
   libboost-dev libboost-regex-dev libxml2-dev libxml2-utils
   googletest libgtest-dev
   frama-c-base
-  libc6-dev-i386
+  libc6-dev-i386 libnewlib-arm-none-eabi
 )
 
 missing=()

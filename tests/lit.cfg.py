@@ -33,6 +33,11 @@ cc_flags = "-fsyntax-only -std=gnu11 -ffreestanding -I %s -include %s/qvt_target
 config.substitutions.append(("%cc-check",
     "%s/tests/cc_check.sh '%s' '%s' '%s'" % (config.qvt_source_root, config.qvt_gcc, config.qvt_clang, cc_flags)))
 
+# An embedded C library's headers (Debian: libnewlib-arm-none-eabi) for the tests of an ARM target.
+newlib_arm = "/usr/lib/arm-none-eabi/include"
+if os.path.exists(os.path.join(newlib_arm, "stdio.h")):
+    config.available_features.add("newlib-arm")
+    config.substitutions.append(("%newlib_arm", newlib_arm))
 if config.qvt_framac:
     config.available_features.add("framac")
     config.substitutions.append(("%frama-c", config.qvt_framac))

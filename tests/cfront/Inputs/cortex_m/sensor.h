@@ -1,0 +1,1 @@
+int sensor_sample(int channel);
