@@ -65,8 +65,9 @@ static void add_wrapper(proc_sym *proc)
   add_piece(text, "static void %s(void)\n", wrapper_name(proc));
   add_piece(text, "{\n");
   add_piece(text, "extern %s\n\n", prototype_text(proc));
+  // A const result is kept in a plain variable: C refuses the assignment to a const one.
   if (has_result)
-    add_piece(text, "%s __ret__;\n", type_text(type->return_type()));
+    add_piece(text, "%s __ret__;\n", type_text(type->return_type()->unqual()));
   for (unsigned i = 0; i < count; i++)
     add_piece(text, "%s __arg__%u;\n", type_text(type->arg_type(i)), i);
   add_piece(text, "\n");

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "driver/output_files.h"
+#include "maingen/const_writes.h"
 #include "maingen/range_constraints.h"
 #include "maingen/var_init.h"
 #include "stubs/stub_text.h"
@@ -38,8 +39,26 @@ static void declare_init_proc(type_node *type, const char *name, const char *fun
   init_proc_texts->push(format_text("extern %s %s(void);\n\n", name, function));
 }
 
+// The aggregates being filled in place, so that a malformed type that holds itself by value
+// falls back to its function instead of unfolding for ever.
+static std::vector<type_node *> filled_in_place;
+
 string_list *gen_init_proc_call(const char *lvalue, type_node *type)
 {
+  // A struct or union with a const member can't be assigned whole (C refuses it): its members
+  // are written in place, each const one through a non-const view.
+  if (!type->peek_annote(k_init_proc) && holds_const_member(type)) {
+    type_node *plain = type->unqual();
+    bool unfolding = false;
+    for (type_node *t : filled_in_place)
+      unfolding = unfolding || t == plain;
+    if (!unfolding) {
+      filled_in_place.push_back(plain);
+      string_list *result = gen_random_value(lvalue, type, false);
+      filled_in_place.pop_back();
+      return result;
+    }
+  }
   const char *function = format_text("_main_gen_init_g%u", type->type_id());
   const char *name = type_text(type);
   if (type->peek_annote(k_init_proc)) {
@@ -52,15 +71,18 @@ string_list *gen_init_proc_call(const char *lvalue, type_node *type)
     add_piece(body, "%s %s(void)\n", name, function);
     add_piece(body, "{\n");
     bool aggregate = type->op() == TYPE_STRUCT || type->op() == TYPE_UNION;
-    add_piece(body, "%s%s x;\n", aggregate ? "static " : "", name);
-    move_pieces(body, gen_random_value("x", type, false));
+    // The value of a const type is built in a plain variable: C refuses to assign a const one,
+    // and the analyser takes a const local for read-only memory.
+    type_node *value_type = type->is_const() ? type->unqual() : type;
+    add_piece(body, "%s%s x;\n", aggregate ? "static " : "", type_text(value_type));
+    move_pieces(body, gen_random_value("x", value_type, false));
     add_piece(body, "return x;\n");
     add_piece(body, "}\n\n");
     init_proc_texts->append(body);
     delete body;
   }
   string_list *result = new string_list;
-  add_piece(result, "%s = %s();\n", lvalue, function);
+  add_piece(result, "%s = %s();\n", writable_lvalue(lvalue, type), function);
   return result;
 }
 
@@ -181,7 +203,12 @@ static void random_record(string_list *result, const char *lvalue, struct_type *
   add_piece(result, "/* struct/union type */\n");
   for (const std::vector<unsigned> &fields : order)
     for (unsigned i : fields) {
-      const char *field_lvalue = format_text("%s.%s", lvalue, record->field_name(i));
+      // A const member is written through a non-const view; a const bit-field, whose address
+      // can't be taken, is left alone.
+      if (is_const_bit_field(record, i))
+        continue;
+      const char *field_lvalue =
+          writable_lvalue(format_text("%s.%s", lvalue, record->field_name(i)), record->field_type(i));
       type_node *ft = record->field_type(i)->unqual();
       type_node *orig = nullptr;
       if (int width = record->field_storage_width(i)) {
@@ -204,6 +231,7 @@ string_list *gen_random_value(const char *lvalue, type_node *type, bool non_null
 {
   string_list *result = new string_list;
   type_node *plain = type->unqual();
+  lvalue = writable_lvalue(lvalue, type);
   switch (plain->op()) {
   case TYPE_INT:
   case TYPE_FLOAT:

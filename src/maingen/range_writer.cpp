@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "drs/drs_model.h"
+#include "maingen/const_writes.h"
 #include "maingen/random_values.h"
 #include "maingen/range_constraints.h"
 #include "stubs/stub_text.h"
@@ -46,8 +47,10 @@ static void close_guard(string_list *result, bool guard)
 
 // A pointer's own record says whether it may be null (minimum 0), must be (0..0), points to
 // one object (maximum 1) or to an array of maximum elements. The other records are its target's.
-static void range_pointer(string_list *result, const char *lvalue, ptr_type *type, subrange_list *ranges,
-                          bool init_other_fields, const char *key, bool uncertain_writes)
+// written: lvalue as it is assigned (a const pointer through a non-const view); lvalue itself
+// names the pointer in the question whether its write is uncertain.
+static void range_pointer(string_list *result, const char *lvalue, const char *written, ptr_type *type,
+                          subrange_list *ranges, bool init_other_fields, const char *key, bool uncertain_writes)
 {
   subrange *own = nullptr;
   size_t own_index = 0;
@@ -70,13 +73,13 @@ static void range_pointer(string_list *result, const char *lvalue, ptr_type *typ
   bool max_zero = own->max[0] == '0';
   bool single = strcmp(own->max, "1") == 0;
   if (min_zero && max_zero) {
-    add_piece(result, "%s = 0;\n", lvalue);
+    add_piece(result, "%s = 0;\n", written);
     return;
   }
   if (min_zero) {
     add_piece(result, "if (qvt_random_int)\n");
     add_piece(result, "{\n");
-    add_piece(result, "%s = 0;\n", lvalue);
+    add_piece(result, "%s = 0;\n", written);
     add_piece(result, "}\n");
     add_piece(result, "else\n");
   }
@@ -96,7 +99,7 @@ static void range_pointer(string_list *result, const char *lvalue, ptr_type *typ
     target_name = format_text("%s *", type_text(elem));
   }
   if (target->op() == TYPE_FUNC) {
-    add_piece(result, "%s = &%s;\n", lvalue, stub_for_function_pointer(static_cast<func_type *>(target), -1));
+    add_piece(result, "%s = &%s;\n", written, stub_for_function_pointer(static_cast<func_type *>(target), -1));
     add_piece(result, "}\n");
     return;
   }
@@ -108,7 +111,7 @@ static void range_pointer(string_list *result, const char *lvalue, ptr_type *typ
     add_piece(result, "static %s %s;\n", target_name, tmp);
     open_guard(result, guard);
     move_pieces(result, write_range_init(tmp, target, ranges, init_other_fields, target_key, uncertain_writes));
-    add_piece(result, "%s = &(%s);\n", lvalue, tmp);
+    add_piece(result, "%s = &(%s);\n", written, tmp);
     close_guard(result, guard);
     add_piece(result, "}\n");
     return;
@@ -136,7 +139,7 @@ static void range_pointer(string_list *result, const char *lvalue, ptr_type *typ
     add_piece(result, "}\n");
     close_guard(result, guard);
   }
-  add_piece(result, "%s = &(%s)[0];\n", lvalue, tmp);
+  add_piece(result, "%s = &(%s)[0];\n", written, tmp);
   add_piece(result, "}\n");
 }
 
@@ -178,7 +181,7 @@ static void random_other_fields(string_list *result, const char *lvalue, struct_
     bool named = false;
     for (const char *s : seen)
       named = named || strcmp(s, name) == 0;
-    if (named)
+    if (named || is_const_bit_field(record, i))
       continue;
     const char *field_lvalue = format_text("%s.%s", lvalue, name);
     type_node *orig = record->field_type(i);
@@ -263,14 +266,19 @@ static void range_record(string_list *result, const char *lvalue, struct_type *r
       std::string expr = lvalue;
       struct_type *holder = record;
       type_node *type;
+      int idx;
       for (;;) {
-        int idx = find_field(g.head, holder);
+        idx = find_field(g.head, holder);
         const char *name = holder->field_name(idx);
         expr += format_text(".%s", name);
         type = field_value_type(holder, idx);
         if (strcmp(name, g.head) == 0)
           break;
         holder = static_cast<struct_type *>(holder->field_type(idx)->unqual());
+      }
+      if (is_const_bit_field(holder, (unsigned)idx)) {
+        delete g.ranges;
+        continue;
       }
       const char *field_key = key ? format_text("%s.%s", key, g.head) : nullptr;
       add_piece(result, "{\n");
@@ -293,26 +301,29 @@ string_list *write_range_init(const char *lvalue, type_node *type, subrange_list
         own = record;
         break;
       }
+  // A const object is assigned through a non-const view (C refuses the plain assignment).
+  const char *written = writable_lvalue(lvalue, type);
   if (!ranges || ranges->empty() || (own && strcmp(own->min, "random") == 0)) {
     add_piece(result, "/* random */\n");
-    move_pieces(result, random_value_lines(lvalue, plain, false));
+    move_pieces(result, random_value_lines(written, plain, false));
     return result;
   }
   switch (plain->op()) {
   case TYPE_INT:
   case TYPE_FLOAT:
   case TYPE_ENUM:
-    range_scalar(result, lvalue, plain, ranges->front());
+    range_scalar(result, written, plain, ranges->front());
     break;
   case TYPE_PTR:
-    range_pointer(result, lvalue, static_cast<ptr_type *>(plain), ranges, init_other_fields, key, uncertain_writes);
+    range_pointer(result, lvalue, written, static_cast<ptr_type *>(plain), ranges, init_other_fields, key,
+                  uncertain_writes);
     break;
   case TYPE_ARRAY:
     range_array(result, lvalue, static_cast<array_type *>(plain), ranges, init_other_fields, key, uncertain_writes);
     break;
   case TYPE_STRUCT:
   case TYPE_UNION:
-    range_record(result, lvalue, static_cast<struct_type *>(plain), ranges, init_other_fields, key,
+    range_record(result, written, static_cast<struct_type *>(plain), ranges, init_other_fields, key,
                  uncertain_writes);
     break;
   default: // void, functions, groups and the kinds without C text write nothing

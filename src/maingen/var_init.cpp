@@ -4,6 +4,7 @@
 #include "maingen/var_init.h"
 
 #include "driver/output_files.h"
+#include "maingen/const_writes.h"
 #include "maingen/random_values.h"
 #include "stubs/stub_text.h"
 #include "types/type_emitter.h"
@@ -49,6 +50,10 @@ string_list *init_variable(var_sym *var, bool random_init, bool has_range)
   const char *function = format_text("_main_gen_init_sym_%s", var->name());
   if (!var->peek_annote(k_already_init_sym)) {
     var->append_annote(k_already_init_sym);
+    // A read-only variable (an undefined extern const) gets an empty function: C refuses to
+    // assign it, and the analyser, which takes it for read-only, gives it a value of its own.
+    if (is_read_only_object(var->type()))
+      random_init = has_range = false;
     add_init_function(var, function, random_init, has_range);
   }
   add_piece(result, "/* init for variable %s */\n", var->name());
