@@ -467,6 +467,7 @@ bool reader::read_type() {
         unsigned n;
         std::string name;
         if (!want(6) || !int_at(3, &size) || !string_at(4, name) || !uint_at(5, &n)) return false;
+        if (size < 0) return fail("negative size");
         if (n > 1000000) return fail("too many fields");
         t = new struct_type(op, size, name.c_str(), n);
         open_expected = n;
@@ -479,6 +480,7 @@ bool reader::read_type() {
         if (!want(7) || !int_at(3, &size)) return false;
         if (tok[4] != "s" && tok[4] != "u") return fail("bad sign \"" + std::string(tok[4]) + "\", expected s or u");
         if (!string_at(5, name) || !uint_at(6, &n)) return false;
+        if (size < 0) return fail("negative size");
         if (n > 1000000) return fail("too many members");
         t = new enum_type(name.c_str(), size, tok[4] == "s", n);
         open_expected = n;
@@ -513,6 +515,7 @@ bool reader::read_field() {
     if (is_field) {
         int off, width;
         if (!want(5) || !string_at(1, name) || !int_at(3, &off) || !int_at(4, &width)) return false;
+        if (off < 0 || width < 0) return fail("negative field offset or width");
         auto s = static_cast<struct_type *>(open_type);
         s->set_field_name(k, name.c_str());
         s->set_field_offset(k, off);
