@@ -6,6 +6,7 @@
 #include <cerrno>
 #include <cinttypes>
 #include <cstring>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include "ir/internal.h"
@@ -475,7 +476,11 @@ bool ir_write_entry(file_set_entry *fse, std::string *error) {
         *error = std::string(out_name) + ":0: cannot write: " + fse->io->write_error;
         return false;
     }
-    std::string tmp = std::string(out_name) + ".tmp";
+    // A device or a pipe (/dev/null, /dev/full) is written in place: renaming
+    // a file over it would replace the device itself.
+    struct stat st;
+    bool in_place = stat(out_name, &st) == 0 && !S_ISREG(st.st_mode);
+    std::string tmp = in_place ? std::string(out_name) : std::string(out_name) + ".tmp";
     FILE *out = fopen(tmp.c_str(), "wb");
     if (!out) {
         *error = std::string(out_name) + ":0: cannot write: " + strerror(errno);
@@ -534,10 +539,10 @@ bool ir_write_entry(file_set_entry *fse, std::string *error) {
     }
     if (ok) ok = fputs("end-of-ir\n", out) >= 0;
     if (fclose(out) != 0) ok = false;
-    if (ok && rename(tmp.c_str(), out_name) != 0) ok = false;
+    if (ok && !in_place && rename(tmp.c_str(), out_name) != 0) ok = false;
     if (!ok) {
         *error = std::string(out_name) + ":0: cannot write: " + (why.empty() ? strerror(errno ? errno : EIO) : why);
-        unlink(tmp.c_str());
+        if (!in_place) unlink(tmp.c_str());
         return false;
     }
     return true;
