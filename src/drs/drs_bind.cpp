@@ -60,7 +60,9 @@ bool drs_check_path(type_node *type, const char *path, drs_entry *entry, unsigne
     switch (type->op()) {
     case TYPE_CONST:
     case TYPE_VOLATILE:
-      if (type->op() == TYPE_VOLATILE) {
+      // Any level of the modifier chain makes it volatile: "const volatile" may have const
+      // outside, and unqual below strips both at once.
+      if (type->is_volatile()) {
         if (mode == DRS_MODE_INIT || mode == DRS_MODE_GLOBALASSERT) {
           drs_warn(entry->line, "data-range-specifications: '%s': volatile variables are not allowed in %s mode",
                    entry->name, mode_word(entry->mode));

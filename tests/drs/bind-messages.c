@@ -20,8 +20,9 @@ int *p;
 long double ld;
 unsigned char uc;
 int sfr_reg;
+const volatile int cvv;
 
-int main(void) { return stub(&g, &g) + vv + vs.f + s.x + g + *p + (int)ld + uc + sfr_reg; }
+int main(void) { return stub(&g, &g) + vv + vs.f + s.x + g + *p + (int)ld + uc + sfr_reg + cvv; }
 
 // CHECK:{{.*}}bind-messages.txt:2: warning: data-range-specifications: global variable/function 'nosuch' does not exist (or it is not used in the current analysis)
 // CHECK-NEXT:{{.*}}bind-messages.txt:4: warning: data-range-specifications: expected a function called by main-generator
@@ -37,6 +38,7 @@ int main(void) { return stub(&g, &g) + vv + vs.f + s.x + g + *p + (int)ld + uc +
 // CHECK-NEXT:{{.*}}bind-messages.txt:20: warning: data-range-specifications: incorrect entry 'g.x'
 // CHECK-NEXT:{{.*}}bind-messages.txt:22: warning: data-range-specifications: impossible to check validity of 'ld'
 // CHECK-NEXT:{{.*}}bind-messages.txt:28: warning: data-range-specifications: 'sfr_reg': variables of type sfr/sbit are not allowed
+// CHECK-NEXT:{{.*}}bind-messages.txt:29: warning: data-range-specifications: 'cvv': volatile variables are not allowed in init mode
 // CHECK-NEXT:{{.*}}bind-messages.txt:13: warning: data-range-specifications: constant parameter not allowed
 // CHECK-NEXT:{{.*}}bind-messages.txt:26: warning: data-range-specifications: function is not allowed
 // CHECK-NEXT:{{.*}}bind-messages.txt:27: warning: data-range-specifications: function is not allowed
