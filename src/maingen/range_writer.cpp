@@ -86,7 +86,11 @@ static void range_pointer(string_list *result, const char *lvalue, const char *w
   add_piece(result, "{\n");
 
   type_node *target = type->ref_type()->unqual();
-  if (target == type_void)
+  // A struct that the program only declares has no size to make an object of: as behind a
+  // void pointer, its memory is taken as bytes.
+  bool opaque = (target->op() == TYPE_STRUCT || target->op() == TYPE_UNION) &&
+                static_cast<struct_type *>(target)->num_fields() == 0;
+  if (target == type_void || opaque)
     target = type_signed_char;
   const char *target_name = type_text(target);
   if (target->op() == TYPE_ARRAY && static_cast<array_type *>(target)->are_bounds_unknown()) {

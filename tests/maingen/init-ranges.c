@@ -1,11 +1,12 @@
 // Globals with ranges are initialised within them: a scalar drawn and bounded; a pointer null,
 // maybe null, to one object or to an array; a function pointer to the stub of its signature, a
-// void pointer to a byte. In a struct the fields that no range names come first, with random
-// content when the main writes the variable and none when only its ranges ask for it; then the
-// named ones, pointers first and scalars last, a field of an anonymous union through its member.
+// void pointer, or one to a struct that is only declared, to a byte. In a struct the fields that
+// no range names come first, with random content when the main writes the variable and none
+// when only its ranges ask for it; then the named ones, pointers first and scalars last, a field
+// of an anonymous union through its member.
 // RUN: rm -rf %t && mkdir -p %t/main %t/ranges
 // RUN: qvt-cfront %s -o %t/p.ir
-// RUN: qvt-stubber -stubber -drs-gen -main-generator -drs-file %S/Inputs/init-ranges.txt -variables-written-before-loop custom=level,none,one,many,r,cb,vp -functions-called-in-loop custom= -stubs-dir %t/main %t/p.ir %t/o.ir 2> %t/err.txt
+// RUN: qvt-stubber -stubber -drs-gen -main-generator -drs-file %S/Inputs/init-ranges.txt -variables-written-before-loop custom=level,none,one,many,r,cb,vp,hp -functions-called-in-loop custom= -stubs-dir %t/main %t/p.ir %t/o.ir 2> %t/err.txt
 // RUN: %FileCheck-exact %s --check-prefixes=CHECK,MAIN --input-file %t/main/__quorvanta_main.c
 // RUN: qvt-stubber -stubber -drs-gen -main-generator -drs-file %S/Inputs/init-ranges.txt -variables-written-before-loop custom= -functions-called-in-loop custom= -stubs-dir %t/ranges %t/p.ir %t/o.ir 2> %t/err.txt
 // RUN: %FileCheck-exact %s --check-prefixes=CHECK,RANGES --input-file %t/ranges/__quorvanta_main.c
@@ -19,7 +20,8 @@ int *many;
 struct rec r;
 int (*cb)(int);
 void *vp;
-int use(void) { return level + *none + *one + *many + r.count + r.a + r.bits + (int)r.w + *r.data + cb(1) + (vp != 0); }
+struct hidden *hp;
+int use(void) { return level + *none + *one + *many + r.count + r.a + r.bits + (int)r.w + *r.data + cb(1) + (vp != 0) + (hp != 0); }
 
 // MAIN-LABEL:static void _main_gen_init_sym_level(void)
 // MAIN:    /* initialization with drs range */
@@ -125,6 +127,17 @@ int use(void) { return level + *none + *one + *many + r.count + r.a + r.bits + (
 // CHECK-NEXT:            /* random */
 // CHECK-NEXT:            _main_gen_tmp_[[VP]] = _main_gen_init_g{{[0-9]+}}();
 // CHECK-NEXT:            vp = &(_main_gen_tmp_[[VP]]);
+// CHECK-NEXT:        }
+// CHECK-NEXT:    }
+// CHECK-NEXT:}
+// CHECK-LABEL:static void _main_gen_init_sym_hp(void)
+// CHECK:    /* initialization with drs range */
+// CHECK-NEXT:    {
+// CHECK-NEXT:        {
+// CHECK-NEXT:            static __QVT__SINT8 _main_gen_tmp_[[HP:[0-9]+]];
+// CHECK-NEXT:            /* random */
+// CHECK-NEXT:            _main_gen_tmp_[[HP]] = _main_gen_init_g{{[0-9]+}}();
+// CHECK-NEXT:            hp = &(_main_gen_tmp_[[HP]]);
 // CHECK-NEXT:        }
 // CHECK-NEXT:    }
 // CHECK-NEXT:}
