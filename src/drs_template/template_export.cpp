@@ -12,7 +12,6 @@
 
 #include <cstdio>
 #include <cstring>
-#include <string>
 #include <unordered_set>
 
 int32_t template_version;
@@ -125,13 +124,7 @@ void export_leftover_entry(drs_entry *entry) {
   }
   bool has_file = file != nullptr;
   drs_set_file(file);
-  std::string target = std::string(entry->name) + "*";
-  drs_entry *pe = nullptr;
-  for (drs_entry *e : *template_entries)
-    if (strncmp(e->name, target.c_str(), target.size()) == 0) {
-      pe = e;
-      break;
-    }
+  drs_entry *pe = first_template_target(entry->name);
   while (text) {
     const char *rest = nullptr;
     const char *head = split_path_head(text, &rest);

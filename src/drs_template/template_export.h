@@ -42,6 +42,9 @@ drs_entry *take_template_entry(const char *path);
 // entry still to be written, taken out (null when none is left).
 void template_entries_index();
 drs_entry *pop_template_entry();
+// The first entry still to be written whose name begins with name then '*'
+// (a pointer target below it), left in place; null if none.
+drs_entry *first_template_target(const char *name);
 // True if the symbol stays out of the template. Takes off a k_no_drs mark.
 bool is_excluded_from_template(sym_node *sym);
 // Forgets what the exclusion learnt of the symbol tables of an earlier run.
