@@ -88,7 +88,8 @@ TEST(lists, push_pop_insert_and_index) {
     immed_list_e *a = m.append(immed(1));
     m.append(immed(3));
     m.insert_after(immed(2), a);
-    EXPECT_EQ(m.insert_after(immed(4), m.tail()), m.tail());
+    immed_list_e *four = m.insert_after(immed(4), m.tail());
+    EXPECT_EQ(four, m.tail());
     std::vector<long long> got, back;
     for (immed_list_e *e = m.head(); e; e = e->next()) got.push_back(e->contents.integer());
     for (immed_list_e *e = m.tail(); e; e = e->prev()) back.insert(back.begin(), e->contents.integer());
