@@ -699,6 +699,8 @@ bool ir_read_tables(file_set_entry *fse, std::string *error) {
                 m.fundamental_type[i] = (C_types)v[24 + i];
             }
             if (m.addressable_size <= 0) return r.fail("bad addressable unit size");
+            for (int i = 3; i < 23; ++i)
+                if (v[i] < 0) return r.fail("negative size or alignment in the target");
             target = m;
             for (int i = 0; i < num_F_types; ++i) fundamental_type_is_sign[i] = v[28 + i] != 0;
             seen_target = true;
