@@ -55,9 +55,33 @@ static void direct_refs(type_node *t, std::vector<type_node *> &out) {
     }
 }
 
+// The types that t holds by value: the fields of a struct, union or group, the element of an array,
+// the base of a modifier. A cycle along these is a type of infinite size, which no C program has
+// and which every walk that fills or prints a value would follow for ever.
+static void value_refs(type_node *t, std::vector<type_node *> &out) {
+    out.clear();
+    switch (t->op()) {
+    case TYPE_GROUP:
+    case TYPE_STRUCT:
+    case TYPE_UNION: {
+        auto s = static_cast<struct_type *>(t);
+        for (unsigned i = 0; i < s->num_fields(); ++i) out.push_back(s->field_type(i));
+        break;
+    }
+    case TYPE_ARRAY: out.push_back(static_cast<array_type *>(t)->elem_type()); break;
+    case TYPE_CONST:
+    case TYPE_VOLATILE:
+    case TYPE_CALL_BY_REF:
+    case TYPE_NULL: out.push_back(static_cast<modifier_type *>(t)->base()); break;
+    default: break;
+    }
+}
+
+using refs_fn = void (*)(type_node *, std::vector<type_node *> &);
+
 // Depth-first walk without recursion, with the three colours: a grey type
 // met again is on the current path, so the path is a cycle.
-static type_node *cycle_from(type_node *root, std::unordered_map<type_node *, char> &colour) {
+static type_node *cycle_from(type_node *root, std::unordered_map<type_node *, char> &colour, refs_fn refs_of) {
     struct frame {
         type_node *t;
         std::vector<type_node *> refs;
@@ -66,7 +90,7 @@ static type_node *cycle_from(type_node *root, std::unordered_map<type_node *, ch
     if (colour[root] == 2) return nullptr;
     std::vector<frame> stack;
     stack.push_back({root, {}, 0});
-    direct_refs(root, stack.back().refs);
+    refs_of(root, stack.back().refs);
     colour[root] = 1;
     while (!stack.empty()) {
         frame &f = stack.back();
@@ -82,22 +106,25 @@ static type_node *cycle_from(type_node *root, std::unordered_map<type_node *, ch
         if (c == 2) continue;
         c = 1;
         stack.push_back({r, {}, 0});
-        direct_refs(r, stack.back().refs);
+        refs_of(r, stack.back().refs);
     }
     return nullptr;
 }
 
-type_node *find_type_cycle(base_symtab *st) {
+static type_node *find_cycle(base_symtab *st, refs_fn refs_of) {
     std::unordered_map<type_node *, char> colour;
     std::vector<base_symtab *> tables{st};
     while (!tables.empty()) {
         base_symtab *t = tables.back();
         tables.pop_back();
         for (type_node_list_e *e = t->types()->head(); e; e = e->next())
-            if (type_node *c = cycle_from(e->contents, colour)) return c;
+            if (type_node *c = cycle_from(e->contents, colour, refs_of)) return c;
         for (base_symtab_list_e *e = t->children()->head(); e; e = e->next()) tables.push_back(e->contents);
     }
     return nullptr;
 }
+
+type_node *find_type_cycle(base_symtab *st) { return find_cycle(st, direct_refs); }
+type_node *find_value_cycle(base_symtab *st) { return find_cycle(st, value_refs); }
 
 }  // namespace ir_format

@@ -43,6 +43,8 @@ bool operand_count_fits(if_ops op, unsigned n, const char **need);
 // A type of st or of its child tables that reaches itself other than
 // through a struct or union, or null.
 type_node *find_type_cycle(base_symtab *st);
+// A struct, union or array in the table that holds itself by value (without a pointer), or null.
+type_node *find_value_cycle(base_symtab *st);
 // Appends text in double quotes with C escapes.
 void put_quoted(std::string &out, const char *text);
 // Appends the text form of an immed.

@@ -152,11 +152,14 @@ struct reader {
     // Where each type was read, for the check of cycles.
     std::unordered_map<const type_node *, int> type_lines;
     bool check_type_cycles(base_symtab *st) {
-        type_node *t = find_type_cycle(st);
-        if (!t) return true;
-        auto at = type_lines.find(t);
-        line_no = at == type_lines.end() ? 0 : at->second;
-        return fail("type " + std::to_string(t->type_id()) + " reaches itself other than through a struct or union");
+        auto refuse = [&](type_node *t, const char *what) {
+            auto at = type_lines.find(t);
+            line_no = at == type_lines.end() ? 0 : at->second;
+            return fail("type " + std::to_string(t->type_id()) + what);
+        };
+        if (type_node *t = find_type_cycle(st)) return refuse(t, " reaches itself other than through a struct or union");
+        if (type_node *t = find_value_cycle(st)) return refuse(t, " holds itself by value, without a pointer");
+        return true;
     }
     // Within a body: the ids it defines.
     bool in_body = false;
