@@ -86,16 +86,33 @@ string_list *gen_init_proc_call(const char *lvalue, type_node *type)
   return result;
 }
 
-// A pointer into the middle of a static array of random elements, or null.
-static void random_pointer(string_list *result, const char *lvalue, ptr_type *type, bool non_null)
+type_node *pointed_object_type(ptr_type *type, const char **name)
 {
   type_node *target = type->ref_type()->unqual();
   // A struct that the program only declares (FILE's markers in the C library) has no fields and
-  // no size to make an array of: its memory is taken as bytes, like that behind a void pointer.
+  // no size to make an object of: its memory is taken as bytes, like that behind a void pointer.
   bool opaque = (target->op() == TYPE_STRUCT || target->op() == TYPE_UNION) &&
                 static_cast<struct_type *>(target)->num_fields() == 0;
   if (target->op() == TYPE_VOID || opaque)
     target = type_signed_char;
+  *name = type_text(target);
+  if (target->op() == TYPE_ARRAY && static_cast<array_type *>(target)->are_bounds_unknown()) {
+    // An array of unknown size can't be declared: the object is a pointer to its elements.
+    type_node *elem = static_cast<array_type *>(target)->elem_type();
+    ptr_type *made = new ptr_type(elem);
+    target = type_void->parent()->install_type(made);
+    if (target != made)
+      delete made;
+    *name = format_text("%s *", type_text(elem));
+  }
+  return target;
+}
+
+// A pointer into the middle of a static array of random elements, or null.
+static void random_pointer(string_list *result, const char *lvalue, ptr_type *type, bool non_null)
+{
+  const char *target_name;
+  type_node *target = pointed_object_type(type, &target_name);
   if (target->op() == TYPE_FUNC) {
     const char *stub = stub_for_function_pointer(static_cast<func_type *>(target), -1);
     add_piece(result, "/* function pointer */\n");
@@ -104,16 +121,6 @@ static void random_pointer(string_list *result, const char *lvalue, ptr_type *ty
     else
       add_piece(result, "%s = QVT_TRUE() ? 0 : %s;\n", lvalue, stub);
     return;
-  }
-  const char *target_name = type_text(target);
-  if (target->op() == TYPE_ARRAY && static_cast<array_type *>(target)->are_bounds_unknown()) {
-    // No C array of an array of unknown size: the static array holds pointers to its elements.
-    type_node *elem = static_cast<array_type *>(target)->elem_type();
-    ptr_type *made = new ptr_type(elem);
-    target = type_void->parent()->install_type(made);
-    if (target != made)
-      delete made;
-    target_name = format_text("%s *", type_text(elem));
   }
   const char *array = next_main_gen_tmp();
   const char *index = format_text("_i%s", next_main_gen_tmp());

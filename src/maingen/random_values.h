@@ -5,6 +5,11 @@
 
 #include "ir/ir.h"
 
+// The object that a generated pointer of this type points into, and its C name in *name: bytes
+// for void and for a struct the program only declares, a pointer to the elements for an array of
+// unknown size, else the unqualified target.
+type_node *pointed_object_type(ptr_type *type, const char **name);
+
 // The dispatcher: integers, floats, structs, unions and enums through their type's function,
 // all else inline. non_null: a pointer gets a target for certain. type keeps its qualifiers, so
 // that a const type has a function of its own. The caller takes the new list.

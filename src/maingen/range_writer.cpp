@@ -85,23 +85,8 @@ static void range_pointer(string_list *result, const char *lvalue, const char *w
   }
   add_piece(result, "{\n");
 
-  type_node *target = type->ref_type()->unqual();
-  // A struct that the program only declares has no size to make an object of: as behind a
-  // void pointer, its memory is taken as bytes.
-  bool opaque = (target->op() == TYPE_STRUCT || target->op() == TYPE_UNION) &&
-                static_cast<struct_type *>(target)->num_fields() == 0;
-  if (target == type_void || opaque)
-    target = type_signed_char;
-  const char *target_name = type_text(target);
-  if (target->op() == TYPE_ARRAY && static_cast<array_type *>(target)->are_bounds_unknown()) {
-    // An array of unknown size can't be declared: the object is a pointer to its elements.
-    type_node *elem = static_cast<array_type *>(target)->elem_type();
-    ptr_type *made = new ptr_type(elem);
-    target = type_void->parent()->install_type(made);
-    if (target != made)
-      delete made;
-    target_name = format_text("%s *", type_text(elem));
-  }
+  const char *target_name;
+  type_node *target = pointed_object_type(type, &target_name);
   if (target->op() == TYPE_FUNC) {
     add_piece(result, "%s = &%s;\n", written, stub_for_function_pointer(static_cast<func_type *>(target), -1));
     add_piece(result, "}\n");
